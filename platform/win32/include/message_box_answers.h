@@ -1,0 +1,10 @@
+#pragma once
+
+#include <winuser.h>
+
+// Answers the message boxes of the stand-in in the user's place.
+
+using MessageBoxAnswer = int (*)(HWND owner, LPCSTR text, LPCSTR caption, UINT type);
+
+// Called on the thread that shows the box; null goes back to refusing. For the whole process.
+WINBASEAPI void SetMessageBoxAnswer(MessageBoxAnswer answer);

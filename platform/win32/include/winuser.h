@@ -1,0 +1,36 @@
+#pragma once
+
+#include <windef.h>
+
+// Message boxes. The values are those of the published header.
+
+typedef struct HWND__* HWND;
+
+#define MB_OK 0x0u
+#define MB_OKCANCEL 0x1u
+#define MB_ABORTRETRYIGNORE 0x2u
+#define MB_YESNOCANCEL 0x3u
+#define MB_YESNO 0x4u
+#define MB_RETRYCANCEL 0x5u
+#define MB_TYPEMASK 0xFu
+#define MB_ICONHAND 0x10u
+#define MB_ICONSTOP MB_ICONHAND
+#define MB_ICONERROR MB_ICONHAND
+#define MB_ICONQUESTION 0x20u
+#define MB_ICONEXCLAMATION 0x30u
+#define MB_ICONASTERISK 0x40u
+
+#define IDOK 1
+#define IDCANCEL 2
+#define IDABORT 3
+#define IDRETRY 4
+#define IDIGNORE 5
+#define IDYES 6
+#define IDNO 7
+
+extern "C" {
+
+// The result is the id of the button. Differs: nothing is drawn and nobody is asked. What message_box_answers.h
+// was given answers, else the box is refused, by No, Abort or Cancel; OK where that is the only button.
+WINBASEAPI int WINAPI MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type);
+}

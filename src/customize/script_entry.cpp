@@ -1,0 +1,5 @@
+#include "customize/script_entry.h"
+
+void ResetEntry(CScriptEntry& entry) {
+    entry = CScriptEntry();
+}

@@ -1,0 +1,35 @@
+#include "customize/script_text.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "temp_folder.h"
+
+namespace {
+
+std::string Bytes(const ScriptText& text) {
+    return {text.Data(), static_cast<size_t>(text.Size())};
+}
+
+TEST(ScriptText, BroughtToItsClosingForm) {
+    using namespace std::string_literals;
+    const struct {
+        std::string bytes;
+        std::string closed;
+    } cases[] = {{"a", "a\r\n\0"s},      {"a\r\n", "a\r\n\r\n\0"s}, {"a\r\n\0"s, "a\r\n\0"s},
+                 {"\r\n\0"s, "\r\n\0"s}, {"\n\0"s, "\n\0\r\n\0"s},  {"", ""}};
+    TempFolder folder;
+    for (const auto& c : cases) {
+        folder.Write("a.brl", c.bytes);
+        ScriptText text;
+        ASSERT_TRUE(text.Load(folder.Name("a.brl").c_str()));
+        EXPECT_EQ(Bytes(text), c.closed) << c.bytes;
+        EXPECT_EQ(text.WasClosed(), c.bytes == c.closed) << c.bytes;
+    }
+    ScriptText text;
+    EXPECT_FALSE(text.Load(folder.Name("none.brl").c_str()));
+    EXPECT_TRUE(text.IsEmpty());
+}
+
+}  // namespace

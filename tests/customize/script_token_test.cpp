@@ -1,0 +1,99 @@
+#include "customize/script_token.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "customize/entry_value_search.h"
+
+namespace {
+
+struct Walk {
+    std::vector<std::string> tokens;
+    TokenFailure end = TokenFailure::None;
+};
+
+Walk Tokens(const std::string& text) {
+    std::vector<char> exact(text.begin(), text.end());
+    CLex lex(exact.data(), static_cast<long>(exact.size()));
+    lex.getNextUnformLine();
+    const char* line = lex.getCurrLinePos();
+    int length = lex.getLineLen();
+    int pos = 0;
+    Walk walk;
+    const char* token = nullptr;
+    int tokenlen = 0;
+    while (NextScriptToken(token, tokenlen, pos, line, length, lex, &walk.end) != 0) {
+        EXPECT_GE(token, exact.data());
+        EXPECT_LE(token + tokenlen, exact.data() + exact.size());
+        walk.tokens.emplace_back(token, static_cast<size_t>(tokenlen));
+    }
+    return walk;
+}
+
+TEST(ScriptToken, Tokens) {
+    using namespace std::string_literals;
+    const struct {
+        std::string text;
+        std::vector<std::string> tokens;
+        TokenFailure end;
+    } cases[] = {
+        {"var x=5;", {"var", "x", "=", "5", ";"}, TokenFailure::EndOfText},
+        {"a:b,c", {"a", ":", "b", ",", "c"}, TokenFailure::EndOfText},
+        {"a\r\n\n  b", {"a", "b"}, TokenFailure::EndOfText},
+        {"a /b", {"a"}, TokenFailure::Comment},
+        {"10//x 5/2 a\"b a<b", {"10//x", "5/2", "a\"b", "a<b"}, TokenFailure::EndOfText},
+        {"<a b>c<", {"<a b>", "c<"}, TokenFailure::EndOfText},
+        {"<a\n>", {}, TokenFailure::Bracket},
+        {"x <", {"x"}, TokenFailure::Bracket},
+        {"\"a b\"c \"d\ne\" f", {"\"a b\"", "c", "\"d\ne\"", "f"}, TokenFailure::EndOfText},
+        {"\"a\nb\"", {"\"a\nb\""}, TokenFailure::EndOfText},  // closes on the last line
+        {"x \"a\nb", {"x"}, TokenFailure::Quote},
+        {"\"", {}, TokenFailure::Quote},
+        {"= \r\n\0"s, {"="}, TokenFailure::EndOfText},
+        {"a\0b\n\0"s, {"a\0b"s}, TokenFailure::EndOfText},
+    };
+    for (const auto& c : cases) {
+        const Walk walk = Tokens(c.text);
+        EXPECT_EQ(walk.tokens, c.tokens) << c.text;
+        EXPECT_EQ(walk.end, c.end) << c.text;
+    }
+}
+
+TEST(ScriptToken, ValueOfACodeLine) {
+    const struct {
+        const char* text;
+        int result;
+        const char* value;
+    } cases[] = {
+        {"var x = 5;", 1, "5"},
+        {"x=5;", 1, "5"},
+        {"f(\"a\");", 1, ""},
+        {"f \"a\" = 5;", 1, "\"a\""},
+        {"x; = 5", 1, ""},
+        {"var x;", 1, ""},
+        {"m = ;", 1, ";"},
+        {"a == 5", 1, "="},
+        {"var x\n y\n= 7;", 1, "7"},
+        {"x /* c */ = 5;", 0, ""},
+        {"x = ", 0, ""},
+        {"x = <a", 0, ""},
+        {"= 5;", 1, ""},
+        {"\"a\" \"b\"", 1, "\"b\""},
+        {"x = <a.wav>;", 1, "<a.wav>"},
+    };
+    for (const auto& c : cases) {
+        const std::string text = c.text;
+        CLex lex(text.data(), static_cast<long>(text.size()));
+        lex.getNextUnformLine();
+        CScriptEntry entry;
+        entry.value = "old";
+        EXPECT_EQ(FindEntryValue(entry, lex, lex.getCurrLinePos(), lex.getLineLen()), c.result) << text;
+        EXPECT_EQ(entry.value, c.value) << text;
+        EXPECT_EQ(entry.textLen, entry.value.GetLength()) << text;
+        EXPECT_EQ(entry.textPos == nullptr, entry.value.IsEmpty()) << text;
+    }
+}
+
+}  // namespace

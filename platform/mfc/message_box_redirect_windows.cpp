@@ -1,6 +1,7 @@
 #include "message_box_redirect.h"
 
-// The pointer through which the calls of this module go: the entry of its import table, under the linker's name.
+// The pointer through which the calls of this module go: the entry of its import table, under the linker's
+// name.
 #ifdef __i386__
 extern "C" MessageBoxFunction imported_message_box __asm__("__imp__MessageBoxA@16");
 #else
@@ -10,7 +11,8 @@ extern "C" MessageBoxFunction imported_message_box __asm__("__imp_MessageBoxA");
 void RedirectMessageBoxes(MessageBoxFunction target) {
     static const MessageBoxFunction original = imported_message_box;
     DWORD protection = 0;
-    if (!VirtualProtect(&imported_message_box, sizeof imported_message_box, PAGE_READWRITE, &protection)) return;
+    if (!VirtualProtect(&imported_message_box, sizeof imported_message_box, PAGE_READWRITE, &protection))
+        return;
     *const_cast<volatile MessageBoxFunction*>(&imported_message_box) = target ? target : original;
     VirtualProtect(&imported_message_box, sizeof imported_message_box, protection, &protection);
 }

@@ -5,9 +5,9 @@
 
 #include "afx_base.h"
 
-// Lets a program answer the message boxes that its own code shows: tests, and the command line, which has no window.
-// It catches MessageBoxA itself, in both worlds, so that the callers stay as they are. A program that does not use
-// this leaves the boxes to the user.
+// Lets a program answer the message boxes that its own code shows: tests, and the command line, which has no
+// window. It catches MessageBoxA itself, in both worlds, so that the callers stay as they are. A program that
+// does not use this leaves the boxes to the user.
 
 struct ShownMessageBox {
     HWND owner;

@@ -45,10 +45,10 @@ typedef struct _WIN32_FIND_DATAA {
 
 extern "C" {
 
-// Finds one entry by its name, or with * and ? in the last part of `pattern` all that match, sorted by name; "."
-// and ".." are among them but in a drive's root. A trailing backslash matches nothing. A file is read-only when
-// its owner may not write. Differs: a ? stands for exactly one character, never for none. Creation is told as
-// the last write.
+// Finds one entry by its name, or with * and ? in the last part of `pattern` all that match, sorted by name;
+// "." and ".." are among them but in a drive's root. A trailing backslash matches nothing. A file is
+// read-only when its owner may not write. Differs: a ? stands for exactly one character, never for none.
+// Creation is told as the last write.
 WINBASEAPI HANDLE WINAPI FindFirstFileA(LPCSTR pattern, LPWIN32_FIND_DATAA found);
 WINBASEAPI BOOL WINAPI FindNextFileA(HANDLE search, LPWIN32_FIND_DATAA found);
 WINBASEAPI BOOL WINAPI FindClose(HANDLE search);

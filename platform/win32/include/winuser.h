@@ -30,7 +30,8 @@ typedef struct HWND__* HWND;
 
 extern "C" {
 
-// The result is the id of the button. Differs: nothing is drawn and nobody is asked. What message_box_answers.h
-// was given answers, else the box is refused, by No, Abort or Cancel; OK where that is the only button.
+// The result is the id of the button. Differs: nothing is drawn and nobody is asked. What
+// message_box_answers.h was given answers, else the box is refused, by No, Abort or Cancel; OK where that is
+// the only button.
 WINBASEAPI int WINAPI MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type);
 }

@@ -1,7 +1,7 @@
 // The script core over a generated script, each step beside an opponent in the same run.
 //
-// The opponent of the line index and of the tag parse is the least that any line reader must do: memchr from line
-// to line, storing each start in a vector. The opponent of saving is one plain write of the same bytes.
+// The opponent of the line index and of the tag parse is the least that any line reader must do: memchr from
+// line to line, storing each start in a vector. The opponent of saving is one plain write of the same bytes.
 
 #include <benchmark/benchmark.h>
 
@@ -73,7 +73,9 @@ void ParseTags(benchmark::State& state) {
     CountBytes(state, script.size());
 }
 
-std::filesystem::path TempFile(const char* name) { return std::filesystem::temp_directory_path() / name; }
+std::filesystem::path TempFile(const char* name) {
+    return std::filesystem::temp_directory_path() / name;
+}
 
 void PlainWrite(benchmark::State& state) {
     const std::string& script = Script(state);
@@ -122,7 +124,8 @@ void SaveChangedValues(benchmark::State& state) {
 constexpr int64_t kSizes[] = {1, 4, 16, 64};
 
 void AllSizes(benchmark::internal::Benchmark* bench) {
-    for (const int64_t megabytes : kSizes) bench->Arg(megabytes);
+    for (const int64_t megabytes : kSizes)
+        bench->Arg(megabytes);
     bench->ArgName("MB")->Unit(benchmark::kMillisecond);
 }
 

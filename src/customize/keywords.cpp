@@ -61,8 +61,6 @@ constexpr std::array<std::string_view, KeywordCount> kKeywords = {"title",
                                                                   "skill19",
                                                                   "skill20"};
 
-constexpr size_t kLongestKeyword = 16;
-
 // Every comment of a script asks once, and most are no tags: by length a handful of words is left to compare.
 struct Bucket {
     std::array<signed char, KeywordCount> kinds{};
@@ -83,7 +81,7 @@ constexpr std::array<Bucket, kLongestKeyword + 1> kByLength = SortByLength();
 }  // namespace
 
 int FindKeyword(const char* text, int length) {
-    if (text == nullptr || length < 0 || length > static_cast<int>(kLongestKeyword)) return KindNone;
+    if (text == nullptr || length < 0 || length > kLongestKeyword) return KindNone;
     const Bucket& bucket = kByLength[static_cast<size_t>(length)];
     for (int i = 0; i < bucket.count; ++i) {
         const int kind = bucket.kinds[static_cast<size_t>(i)];

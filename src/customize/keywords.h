@@ -35,6 +35,9 @@ enum EntryKind : int {
     KeywordCount
 };
 
+// Bytes of the longest keyword.
+inline constexpr int kLongestKeyword = 16;
+
 // The keyword of exactly this length that equals the text without regard to case, or -1.
 int FindKeyword(const char* text, int length);
 

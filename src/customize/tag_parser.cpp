@@ -287,8 +287,13 @@ TagLine ReadTagLine(const char* line, int length) {
     const char* const token = FindFirstToken(line, length);
     if (token == nullptr || !BeginsComment(token, end)) return tag;
     tag.slashes = token;
+    const char* start = token + 2;
+    while (start < end && (*start == ' ' || *start == '\t' || *start == ':'))
+        ++start;
+    // A word that is longer than every keyword need not be walked to its end, as in a line of slashes.
+    const ptrdiff_t enough = std::min<ptrdiff_t>(end - start, kLongestKeyword + 1);
     TokenScanner scanner;
-    const char* const word = scanner.First(token + 2, static_cast<int>(end - token - 2), kDelimiters);
+    const char* const word = scanner.First(start, static_cast<int>(enough), kDelimiters);
     if (word == nullptr) return tag;
     tag.keyword = FindKeyword(word, scanner.TokenLen());
     tag.argument = word + scanner.TokenLen();

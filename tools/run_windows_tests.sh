@@ -21,7 +21,7 @@ esac
 # Two runs in one prefix would end each other's programs.
 mkdir -p build
 if [ "${WINE_LOCKED:-}" != "$preset" ]; then
-    WINE_LOCKED=$preset exec flock --close "build/$preset.lock" "$0" "$@"
+    WINE_LOCKED=$preset exec flock --close "build/$preset.lock" tools/run_windows_tests.sh "$@"
 fi
 
 skip() {

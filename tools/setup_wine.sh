@@ -26,7 +26,8 @@ unpack_wine_i386() {
     mkdir -p "$folder"/state/lists/partial "$folder"/cache/archives/partial "$folder"/root
     : >"$folder"/status
     apt=(apt-get -qq -o Acquire::Retries=3 -o APT::Sandbox::User=root -o APT::Architecture=i386
-        -o APT::Architectures::=i386 -o Dir::State="$folder"/state -o Dir::State::status="$folder"/status -o Dir::Cache="$folder"/cache)
+        -o APT::Architectures::=i386
+        -o Dir::State="$folder"/state -o Dir::State::status="$folder"/status -o Dir::Cache="$folder"/cache)
     echo "setup_wine: fetching Wine for 32-bit programs"
     # One index that cannot be read does not matter as long as the packages are found in another.
     "${apt[@]}" update >"$folder"/log 2>&1

@@ -7,5 +7,5 @@ std::byte* XmlArena::AddOwnBlock(size_t size) {
 void XmlArena::AddBlock() {
     next_ = AddOwnBlock(blockSize_);
     end_ = next_ + blockSize_;
-    if (blockSize_ < kLargestBlock) blockSize_ *= 2;
+    if (blockSize_ < kLargestBlock) blockSize_ *= 4;
 }

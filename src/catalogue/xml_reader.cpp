@@ -1,6 +1,10 @@
 #include "catalogue/xml_reader.h"
 
 #include <memory>
+#include <string_view>
+
+#include "catalogue/xml_scanner.h"
+#include "catalogue/xml_tree_builder.h"
 
 using xml_bytes::BeginsWith;
 
@@ -38,50 +42,59 @@ void SetPlace(XmlResult& result, std::string_view textBefore) {
     }
 }
 
+// The state of one parse.
+class ElementParser {
+public:
+    ElementParser(XmlTree& tree, std::string_view text)
+        : scanner_(text.data(), text.size()), builder_(tree) {}
+
+    void ParseElement();
+
+    XmlErrorCode Error() const { return error_; }
+    size_t Index() const { return scanner_.Index(); }
+
+private:
+    // What comes next: the start tag or the content of the current element, what follows its end, or nothing.
+    enum class Step { StartTag, Content, Ended, Stop };
+
+    Step ParseStartTag();
+    Step ParseContent();
+    Step OpenElement(XmlTokenType opener);
+    Step ReadEndTag();
+    Step FollowEndedElement();
+    bool ParseClearTag();
+
+    XmlToken GetNextToken() { return scanner_.Next(); }
+    Step Fail(XmlErrorCode code);
+    Step Unexpected(const XmlToken& token);
+
+    XmlScanner scanner_;
+    XmlTreeBuilder builder_;
+    XmlErrorCode error_ = XmlErrorNone;
+    XmlToken pendingEndTag_;   // an end tag that did not match the element that read it; of length 0 for none
+    XmlToken pendingElement_;  // the name of a start tag that closed the element that read it; likewise
+};
+
 // A declaration's closing "?" is no part of its last name or value.
 void DropQuestionMark(XmlToken& token) {
     if (token.start[token.length - 1] == '?') --token.length;
 }
 
-}  // namespace
-
-CXmlReader::CXmlReader(XmlTree& tree, std::string_view text)
-    : scanner_(text.data(), text.size()), builder_(tree) {}
-
-CXmlElement* CXmlReader::Parse(const char* text, XmlResult* result) {
-    const std::string_view whole(text);
-    std::unique_ptr<XmlTree> tree;
-    XmlErrorCode error = XmlErrorNoData;
-    size_t index = 0;
-    if (whole.size() <= kLongestText) {
-        tree = std::make_unique<XmlTree>();
-        CXmlReader reader(*tree, whole);
-        reader.ParseElement();
-        error = reader.error_;
-        index = reader.scanner_.Index();
-    }
-    if (result) {
-        result->error = error;
-        if (error != XmlErrorNone) SetPlace(*result, whole.substr(0, index));
-    }
-    return error == XmlErrorNone ? tree.release() : nullptr;
-}
-
-CXmlReader::Step CXmlReader::Fail(XmlErrorCode code) {
+ElementParser::Step ElementParser::Fail(XmlErrorCode code) {
     error_ = code;
     return Step::Stop;
 }
 
 // For a token that has no place where it stands. The end of the text is none of those: it just ends what is
 // open.
-CXmlReader::Step CXmlReader::Unexpected(const XmlToken& token) {
+ElementParser::Step ElementParser::Unexpected(const XmlToken& token) {
     if (token.type != XmlTokenError) return Fail(XmlErrorToken);
     return scanner_.MetUnmatchedQuote() ? Fail(XmlErrorQuote) : Step::Stop;
 }
 
 // Reads the root and everything in it. The builder's current element is the one being read, so that nesting
 // needs no recursion.
-void CXmlReader::ParseElement() {
+void ElementParser::ParseElement() {
     Step step = Step::Content;
     while (step != Step::Stop) {
         switch (step) {
@@ -94,7 +107,7 @@ void CXmlReader::ParseElement() {
 }
 
 // The attributes, from behind the tag name up to ">" or "/>".
-CXmlReader::Step CXmlReader::ParseStartTag() {
+ElementParser::Step ElementParser::ParseStartTag() {
     const bool isDeclaration = builder_.Current().isDeclaration != 0;
     for (;;) {
         XmlToken name = GetNextToken();
@@ -122,7 +135,7 @@ CXmlReader::Step CXmlReader::ParseStartTag() {
     }
 }
 
-CXmlReader::Step CXmlReader::ParseContent() {
+ElementParser::Step ElementParser::ParseContent() {
     const char* run = nullptr;
     const auto closeRun = [this, &run](const char* end) {
         if (!run) return;
@@ -153,7 +166,7 @@ CXmlReader::Step CXmlReader::ParseContent() {
 }
 
 // Behind "<" or "<?" in content.
-CXmlReader::Step CXmlReader::OpenElement(XmlTokenType opener) {
+ElementParser::Step ElementParser::OpenElement(XmlTokenType opener) {
     const XmlToken name = GetNextToken();
     if (name.type != XmlTokenText) return Fail(XmlErrorStartTagName);
     const std::string_view current = builder_.CurrentName();
@@ -166,7 +179,7 @@ CXmlReader::Step CXmlReader::OpenElement(XmlTokenType opener) {
 }
 
 // Behind "</" in content.
-CXmlReader::Step CXmlReader::ReadEndTag() {
+ElementParser::Step ElementParser::ReadEndTag() {
     const XmlToken name = GetNextToken();
     if (name.type != XmlTokenText) return Fail(XmlErrorEndTagName);
     if (GetNextToken().type != XmlTokenClose) return Fail(XmlErrorEndTagName);
@@ -178,7 +191,7 @@ CXmlReader::Step CXmlReader::ReadEndTag() {
 
 // The tag that ended an element may end its parents as well: an end tag goes up to the element that it names,
 // a start tag past all parents whose names it begins with, to become the next sibling of the last of them.
-CXmlReader::Step CXmlReader::FollowEndedElement() {
+ElementParser::Step ElementParser::FollowEndedElement() {
     builder_.CloseElement();
     const std::string_view name = builder_.CurrentName();
     if (pendingEndTag_.length > 0) {
@@ -194,10 +207,31 @@ CXmlReader::Step CXmlReader::FollowEndedElement() {
 }
 
 // Behind the open string of a raw block. False when the block never closes.
-bool CXmlReader::ParseClearTag() {
+bool ElementParser::ParseClearTag() {
     const XmlClearTag& tag = scanner_.ClearTag();
     std::string_view value;
     if (!scanner_.TakeUpTo(tag.close, value)) return false;
     builder_.AddClear(tag.open, value, tag.close);
     return true;
+}
+
+}  // namespace
+
+CXmlElement* CXmlReader::Parse(const char* text, XmlResult* result) {
+    const std::string_view whole(text);
+    std::unique_ptr<XmlTree> tree;
+    XmlErrorCode error = XmlErrorNoData;
+    size_t index = 0;
+    if (whole.size() <= kLongestText) {
+        tree = std::make_unique<XmlTree>();
+        ElementParser parser(*tree, whole);
+        parser.ParseElement();
+        error = parser.Error();
+        index = parser.Index();
+    }
+    if (result) {
+        result->error = error;
+        if (error != XmlErrorNone) SetPlace(*result, whole.substr(0, index));
+    }
+    return error == XmlErrorNone ? tree.release() : nullptr;
 }

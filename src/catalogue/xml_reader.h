@@ -2,11 +2,8 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <string_view>
 
-#include "catalogue/xml_scanner.h"
 #include "catalogue/xml_tree.h"
-#include "catalogue/xml_tree_builder.h"
 
 // Reads one text into a tree, without validating. The grammar is looser than XML: end tags may be missing, an
 // attribute needs no value and a value no quotes, and the end of the text closes what is open. It is stricter
@@ -41,7 +38,6 @@ struct XmlResult {
     int32_t column = 0;
 };
 
-// The state of one parse.
 class CXmlReader {
 public:
     static constexpr size_t kLongestText = 0x7FFFFFFE;
@@ -51,28 +47,4 @@ public:
     // null. A text longer than kLongestText is refused with code 1 at its beginning. Depth of nesting costs
     // memory, not call stack.
     static CXmlElement* Parse(const char* text, XmlResult* result);
-
-private:
-    // What comes next: the start tag or the content of the current element, what follows its end, or nothing.
-    enum class Step { StartTag, Content, Ended, Stop };
-
-    CXmlReader(XmlTree& tree, std::string_view text);
-
-    void ParseElement();
-    Step ParseStartTag();
-    Step ParseContent();
-    Step OpenElement(XmlTokenType opener);
-    Step ReadEndTag();
-    Step FollowEndedElement();
-    bool ParseClearTag();
-
-    XmlToken GetNextToken() { return scanner_.Next(); }
-    Step Fail(XmlErrorCode code);
-    Step Unexpected(const XmlToken& token);
-
-    XmlScanner scanner_;
-    XmlTreeBuilder builder_;
-    XmlErrorCode error_ = XmlErrorNone;
-    XmlToken pendingEndTag_;   // an end tag that did not match the element that read it; of length 0 for none
-    XmlToken pendingElement_;  // the name of a start tag that closed the element that read it; likewise
 };

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "catalogue/ascii_case.h"
+#include "catalogue/short_compare.h"
 
 // Cuts a text that ends in a 0 into the tokens of CXmlReader. The text is neither owned nor changed. All is
 // inline: a catalogue has millions of tokens.
@@ -71,11 +72,12 @@ inline bool Is(uint8_t kind, char ch) {
     return kClasses[static_cast<uint8_t>(ch)] & kind;
 }
 
-// One-sided: what the token holds behind the name does not matter.
+// One-sided: what the token holds behind the name does not matter. The name is not empty.
 inline bool BeginsWith(std::string_view token, std::string_view name) {
-    if (token.size() < name.size()) return false;
-    for (size_t i = 0; i < name.size(); ++i) {
-        if (token[i] != name[i] && FoldCase(token[i]) != FoldCase(name[i])) return false;
+    if (token.size() < name.size() || FoldCase(token[0]) != FoldCase(name[0])) return false;
+    if (EqualBytes(token.data(), name.data(), name.size())) return true;
+    for (size_t i = 1; i < name.size(); ++i) {
+        if (FoldCase(token[i]) != FoldCase(name[i])) return false;
     }
     return true;
 }

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "support/file_objects.h"
+#include "support/path_limit.h"
 
 namespace {
 
@@ -40,7 +41,7 @@ ScriptText ScriptText::Copy(const char* bytes, long size) {
 bool ScriptText::Load(const char* path) {
     *this = ScriptText();
     file_t file;
-    if (!file.OpenRead(path)) return false;
+    if (!IsOpenablePath(path) || !file.OpenRead(path)) return false;
     unsigned char* bytes = nullptr;
     long length = 0;
     file.GetText(&bytes, length);

@@ -8,13 +8,13 @@
 
 #include "support/file_objects.h"
 #include "support/number_text.h"
+#include "support/path_limit.h"
 #include "support/saved_file.h"
 
 namespace {
 
 constexpr size_t kLongestLine = 511;  // bytes of a line with its LF, as far as a reader takes it
 constexpr size_t kPieceSize = 500;
-constexpr size_t kLongestName = 256;
 
 bool FitsOneLine(const CString& value) {
     const std::string_view text(value, static_cast<size_t>(value.GetLength()));
@@ -97,11 +97,6 @@ std::string_view WithoutLineEnd(std::string_view line) {
 
 int NumberOf(std::string_view text) {
     return ParseInt(text.data(), text.size());
-}
-
-// OpenRead would take a longer name for the file of its shortened form.
-bool OpenWholeName(file_t& stream, const char* path) {
-    return std::strlen(path) < kLongestName && stream.OpenRead(path);
 }
 
 // Puts the pieces of long values together again; a set with a gap is dropped.
@@ -214,7 +209,7 @@ SideFileCode WriteSideFile(const char* path, const ScriptHeader& header, std::sp
 SideFile ReadSideFile(const char* path) {
     SideFile file;
     file_t stream;
-    if (!OpenWholeName(stream, path)) {
+    if (!IsOpenablePath(path) || !stream.OpenRead(path)) {
         file.code = SideFileCode::CannotRead;
         return file;
     }

@@ -12,9 +12,6 @@
 
 namespace {
 
-// Longest name that the opens take over.
-constexpr size_t kOpenNameLimit = 255;
-
 // Rewinds a stream. The result is its length in bytes, or -1 when GetLen could not tell it.
 long MeasureStream(FILE* stream) {
     if (std::fseek(stream, 0, SEEK_END) != 0) return -1;

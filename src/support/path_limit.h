@@ -13,6 +13,13 @@ inline bool IsUsablePath(const char* path) {
     return path && std::memchr(path, 0, kPathSize);
 }
 
+// file_t opens the file of a name cut to this length; a longer one must not reach it, or it would become
+// another.
+inline constexpr size_t kOpenNameLimit = 255;
+inline bool IsOpenablePath(const char* path) {
+    return path && std::memchr(path, 0, kOpenNameLimit + 1);
+}
+
 // Into a zero-filled buffer. A null name counts as empty.
 inline void CopyPath(char* buffer, const char* path, size_t limit) {
     while (path && *path && limit-- > 0)

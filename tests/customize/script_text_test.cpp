@@ -30,6 +30,8 @@ TEST(ScriptText, BroughtToItsClosingForm) {
     ScriptText text;
     EXPECT_FALSE(text.Load(folder.Name("none.brl").c_str()));
     EXPECT_TRUE(text.IsEmpty());
+    // a name that opening would cut short is none, even when a file has the shortened name
+    EXPECT_FALSE(text.Load((folder.Name("a.brl") + std::string(256, 'x')).c_str()));
 }
 
 }  // namespace

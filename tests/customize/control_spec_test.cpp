@@ -42,16 +42,6 @@ TEST(ControlSpec, ListsAndRepetition) {
     EXPECT_EQ(entry.items.size(), 1u);
 }
 
-TEST(ControlSpec, ClassifyNumber) {
-    const struct {
-        const char* text;
-        int form;
-    } cases[] = {{"12", 1},   {"-5", 1},  {"+", 1},     {"-", 1}, {"1.", 2},  {".", 2},   {"-.5", 2},
-                 {"+1.5", 2}, {"1e3", 0}, {"1.2.3", 0}, {"", 0},  {"--1", 0}, {"5/2", 0}, {"0x1", 0}};
-    for (const auto& c : cases)
-        EXPECT_EQ(ClassifyNumber(c.text), c.form) << c.text;
-}
-
 TEST(ControlSpec, SizePrefix) {
     const struct {
         const char* text;

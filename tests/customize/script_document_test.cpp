@@ -38,16 +38,6 @@ TEST_F(ScriptDocumentTest, WritesOnlyWhatWasSet) {
     EXPECT_TRUE(script_.ChangedValues().empty());
 }
 
-TEST_F(ScriptDocumentTest, ASecondSaveKeepsTheFirst) {
-    Load("//entry A\na=5;\n//enable B\nb();\n");
-    Show(0, "1234");
-    Show(1, "0");
-    EXPECT_EQ(script_.Save(script_.ChangedValues()), SaveResult::Saved);
-    Show(1, "1");
-    EXPECT_EQ(script_.Save(script_.ChangedValues()), SaveResult::Saved);
-    EXPECT_EQ(folder_.Read("a.brl"), Closed("//entry A\na=1234;\n//enable B\nb();\n"));
-}
-
 TEST_F(ScriptDocumentTest, Limits) {
     Load(
         "//entry A\n//cntl spin 0 10 2\na=5;\n//entry B\n//cntl spin 0 10 2\nb=5.0;\n//entry_drop C\n//cntl "

@@ -5,8 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "customize/entry_value_search.h"
-
 namespace {
 
 struct Walk {
@@ -58,41 +56,6 @@ TEST(ScriptToken, Tokens) {
         const Walk walk = Tokens(c.text);
         EXPECT_EQ(walk.tokens, c.tokens) << c.text;
         EXPECT_EQ(walk.end, c.end) << c.text;
-    }
-}
-
-TEST(ScriptToken, ValueOfACodeLine) {
-    const struct {
-        const char* text;
-        int result;
-        const char* value;
-    } cases[] = {
-        {"var x = 5;", 1, "5"},
-        {"x=5;", 1, "5"},
-        {"f(\"a\");", 1, ""},
-        {"f \"a\" = 5;", 1, "\"a\""},
-        {"x; = 5", 1, ""},
-        {"var x;", 1, ""},
-        {"m = ;", 1, ";"},
-        {"a == 5", 1, "="},
-        {"var x\n y\n= 7;", 1, "7"},
-        {"x /* c */ = 5;", 0, ""},
-        {"x = ", 0, ""},
-        {"x = <a", 0, ""},
-        {"= 5;", 1, ""},
-        {"\"a\" \"b\"", 1, "\"b\""},
-        {"x = <a.wav>;", 1, "<a.wav>"},
-    };
-    for (const auto& c : cases) {
-        const std::string text = c.text;
-        CLex lex(text.data(), static_cast<long>(text.size()));
-        lex.getNextUnformLine();
-        CScriptEntry entry;
-        entry.value = "old";
-        EXPECT_EQ(FindEntryValue(entry, lex, lex.getCurrLinePos(), lex.getLineLen()), c.result) << text;
-        EXPECT_EQ(entry.value, c.value) << text;
-        EXPECT_EQ(entry.textLen, entry.value.GetLength()) << text;
-        EXPECT_EQ(entry.textPos == nullptr, entry.value.IsEmpty()) << text;
     }
 }
 

@@ -178,12 +178,14 @@ ElementParser::Step ElementParser::OpenElement(XmlTokenType opener) {
     return Step::StartTag;
 }
 
-// Behind "</" in content.
+// Behind "</" in content. Nearly every end tag names the element that is open; that one is compared on the
+// spot.
 ElementParser::Step ElementParser::ReadEndTag() {
+    const std::string_view current = builder_.CurrentName();
+    if (!current.empty() && scanner_.TakeNameAndClose(current)) return Step::Ended;
     const XmlToken name = GetNextToken();
     if (name.type != XmlTokenText) return Fail(XmlErrorEndTagName);
     if (GetNextToken().type != XmlTokenClose) return Fail(XmlErrorEndTagName);
-    const std::string_view current = builder_.CurrentName();
     if (current.empty()) return Fail(XmlErrorEndTag);
     if (!BeginsWith(name.View(), current)) pendingEndTag_ = name;
     return Step::Ended;

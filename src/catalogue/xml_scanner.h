@@ -6,7 +6,6 @@
 #include <string_view>
 
 #include "catalogue/ascii_case.h"
-#include "catalogue/short_compare.h"
 
 // Cuts a text that ends in a 0 into the tokens of CXmlReader. The text is neither owned nor changed. All is
 // inline: a catalogue has millions of tokens.
@@ -72,12 +71,11 @@ inline bool Is(uint8_t kind, char ch) {
     return kClasses[static_cast<uint8_t>(ch)] & kind;
 }
 
-// One-sided: what the token holds behind the name does not matter. The name is not empty.
+// One-sided: what the token holds behind the name does not matter.
 inline bool BeginsWith(std::string_view token, std::string_view name) {
-    if (token.size() < name.size() || FoldCase(token[0]) != FoldCase(name[0])) return false;
-    if (EqualBytes(token.data(), name.data(), name.size())) return true;
-    for (size_t i = 1; i < name.size(); ++i) {
-        if (FoldCase(token[i]) != FoldCase(name[i])) return false;
+    if (token.size() < name.size()) return false;
+    for (size_t i = 0; i < name.size(); ++i) {
+        if (token[i] != name[i] && FoldCase(token[i]) != FoldCase(name[i])) return false;
     }
     return true;
 }
@@ -112,6 +110,10 @@ public:
     // Takes what comes up to the first `close`, and that as well. False, and nothing taken, when there is
     // none.
     bool TakeUpTo(std::string_view close, std::string_view& value);
+
+    // Takes exactly this name and the ">" right behind it, if that is what stands here and what Next would
+    // make of it.
+    bool TakeNameAndClose(std::string_view name);
 
     bool MetUnmatchedQuote() const { return unmatchedQuote_; }
 
@@ -222,5 +224,12 @@ inline bool XmlScanner::TakeUpTo(std::string_view close, std::string_view& value
     if (length == std::string_view::npos) return false;
     value = rest.substr(0, length);
     at_ += length + close.size();
+    return true;
+}
+
+inline bool XmlScanner::TakeNameAndClose(std::string_view name) {
+    if (static_cast<size_t>(end_ - at_) <= name.size() || at_[name.size()] != '>') return false;
+    if (name.back() == '/' || std::memcmp(at_, name.data(), name.size()) != 0) return false;
+    at_ += name.size() + 1;
     return true;
 }

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "catalogue/xml_arena.h"
-#include "catalogue/xml_recent_texts.h"
+#include "catalogue/xml_names.h"
 #include "catalogue/xml_tree.h"
 
 // A root with the memory of its tree. All other elements lie in that memory.
@@ -42,10 +42,10 @@ public:
     }
     void AddAttribute(std::string_view name, std::string_view value) {
         AddItem(XmlItemAttribute,
-                memory_.New<XmlAttribute>(names_.CopyOf(name, memory_), values_.CopyOf(value, memory_)));
+                memory_.New<XmlAttribute>(names_.CopyOf(name, memory_), memory_.CopyOf(value)));
     }
     void AddText(std::string_view value) {
-        AddItem(XmlItemText, memory_.New<XmlText>(values_.CopyOf(value, memory_)));
+        AddItem(XmlItemText, memory_.New<XmlText>(memory_.CopyOf(value)));
     }
     // `openTag` and `closeTag` are not copied.
     void AddClear(const char* openTag, std::string_view value, const char* closeTag) {
@@ -83,6 +83,5 @@ private:
     CXmlElement* current_;
     std::vector<XmlItem> openItems_;
     std::vector<OpenElement> open_;  // all but the root
-    XmlRecentTexts names_;           // apart, so that no passing value pushes a name out
-    XmlRecentTexts values_;
+    XmlNames names_;
 };

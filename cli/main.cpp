@@ -20,9 +20,7 @@ constexpr char kExamples[] = R"(Examples:
 Exit status: 0 done, 1 the request can't be met (check: something was found),
 2 a file can't be read or written.)";
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int RunProgram(int argc, char** argv) {
     CLI::App app{"Shows and sets the tunable values that BRL scripts tell of themselves in their comments.",
                  "brlv"};
     app.footer(kExamples);
@@ -64,9 +62,19 @@ int main(int argc, char** argv) {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? ExitOk : ExitUser;
-    } catch (const std::exception& error) {
-        std::cerr << "brlv: " << error.what() << '\n';
-        return ExitFiles;
     }
     return status;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return RunProgram(argc, argv);
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "brlv: %s\n", error.what());
+    } catch (...) {
+        std::fputs("brlv: unknown error\n", stderr);
+    }
+    return ExitFiles;
 }

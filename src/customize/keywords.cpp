@@ -63,7 +63,7 @@ constexpr std::array<std::string_view, KeywordCount> kKeywords = {"title",
 
 // Every comment of a script asks once, and most are no tags: by length a handful of words is left to compare.
 struct Bucket {
-    std::array<signed char, KeywordCount> kinds{};
+    std::array<unsigned char, KeywordCount> kinds{};
     int count = 0;
 };
 
@@ -71,7 +71,7 @@ constexpr std::array<Bucket, kLongestKeyword + 1> SortByLength() {
     std::array<Bucket, kLongestKeyword + 1> buckets{};
     for (size_t kind = 0; kind < kKeywords.size(); ++kind) {
         Bucket& bucket = buckets[kKeywords[kind].size()];
-        bucket.kinds[static_cast<size_t>(bucket.count++)] = static_cast<signed char>(kind);
+        bucket.kinds[static_cast<size_t>(bucket.count++)] = static_cast<unsigned char>(kind);
     }
     return buckets;
 }

@@ -70,23 +70,27 @@ TEST(XmlReader, Content) {
 
 // The words of a long text are passed over in steps of eight bytes. Nothing of interest may be lost wherever
 // it stands among them.
+void CheckBehind(const std::string& lead) {
+    const std::string kept = lead.substr(0, lead.find_last_not_of(' ') + 1);
+    const bool inWord = kept == lead && lead.back() != '=';
+    const auto column = [&lead](size_t behind) { return std::to_string(3 + lead.size() + behind + 1); };
+    Check({
+        {"<a>" + lead + "</a>", "a{'" + kept + "'}"},
+        {"<a>" + lead + "<b/>" + lead + "</a>", "a{'" + kept + "' b{} '" + kept + "'}"},
+        {"<a>" + lead + "> more of it</a>", "error 7 at 1:" + column(1)},
+        {"<a>" + lead + "/> more of it</a>", "error 7 at 1:" + column(2)},
+        {"<a>" + lead + "' more of it</a>",
+         inWord ? "a{'" + lead + "' more of it'}" : "error 5 at 1:" + column(0)},
+        {"<a>" + lead + "\"</a>\" more</a>",
+         inWord ? "error 5 at 1:" + column(5) : "a{'" + lead + "\"</a>\" more'}"},
+    });
+}
+
 TEST(XmlReader, LongTextsAtEveryOffset) {
     const std::string words = "some words, 12 = 0x0C; path\\to/file & so on ";
-    for (size_t length = 1; length <= words.size(); ++length) {
-        const std::string lead = words.substr(0, length);
-        const std::string kept = lead.substr(0, lead.find_last_not_of(' ') + 1);
-        const bool inWord = kept == lead && lead.back() != '=';
-        const auto column = [&lead](size_t behind) { return std::to_string(3 + lead.size() + behind + 1); };
-        Check({
-            {"<a>" + lead + "</a>", "a{'" + kept + "'}"},
-            {"<a>" + lead + "<b/>" + words + "</a>", "a{'" + kept + "' b{} '" + words.substr(0, 43) + "'}"},
-            {"<a>" + lead + "> more of it</a>", "error 7 at 1:" + column(1)},
-            {"<a>" + lead + "/> more of it</a>", "error 7 at 1:" + column(2)},
-            {"<a>" + lead + "' more of it</a>",
-             inWord ? "a{'" + lead + "' more of it'}" : "error 5 at 1:" + column(0)},
-            {"<a>" + lead + "\"</a>\" more</a>",
-             inWord ? "error 5 at 1:" + column(5) : "a{'" + lead + "\"</a>\" more'}"},
-        });
+    for (const size_t start : {0u, 1u, 2u, 3u, 5u, 6u, 7u, 8u}) {
+        for (size_t end = start + 1; end <= words.size(); ++end)
+            CheckBehind(words.substr(start, end - start));
     }
 }
 
@@ -157,6 +161,8 @@ TEST(XmlReader, ErrorsAndTheirPlaces) {
         {"<a></a b>", "error 4 at 1:9"},
         {"<a></a '>", "error 4 at 1:8"},
         {"<a></'a>", "error 4 at 1:6"},
+        {"<a></a b\n>", "error 4 at 2:1"},
+        {"<a/ ></a/>", "error 4 at 1:11"},
         {"</a b>", "error 4 at 1:6"},
         {"<a>it 's so\nmuch</a>", "error 5 at 1:7"},
         {"<a\n x=\"1>", "error 5 at 2:4"},

@@ -107,8 +107,8 @@ public:
         const size_t kind = head.find(' ');
         const size_t part = kind == head.npos ? head.npos : head.find(' ', kind + 1);
         const size_t count = part == head.npos ? head.npos : head.find('/', part + 1);
-        const int id = NumberOf(head) < 0 ? -NumberOf(head) : 0;
-        if (id == 0 || count == head.npos) return std::nullopt;
+        const int id = head.front() == '-' ? NumberOf(head.substr(1)) : 0;
+        if (id < 1 || count == head.npos) return std::nullopt;
         const int number = NumberOf(head.substr(part + 1));
         if (number == 1) {
             collected_ = {id, NumberOf(head.substr(kind + 1)), CString()};

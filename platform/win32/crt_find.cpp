@@ -1,7 +1,6 @@
 #include <io.h>
 #include <windows.h>
 
-#include <bit>
 #include <cerrno>
 #include <cstring>
 
@@ -40,17 +39,17 @@ intptr_t _findfirst(const char* pattern, _finddata_t* found) {
     const HANDLE search = FindFirstFileA(pattern, &data);
     if (search == INVALID_HANDLE_VALUE) return FailWithLastError();
     Fill(*found, data);
-    return std::bit_cast<intptr_t>(search);
+    return reinterpret_cast<intptr_t>(search);
 }
 
 int _findnext(intptr_t search, _finddata_t* found) {
     if (!found) return FailWith(EINVAL);
     WIN32_FIND_DATAA data;
-    if (!FindNextFileA(std::bit_cast<HANDLE>(search), &data)) return FailWithLastError();
+    if (!FindNextFileA(reinterpret_cast<HANDLE>(search), &data)) return FailWithLastError();
     Fill(*found, data);
     return 0;
 }
 
 int _findclose(intptr_t search) {
-    return FindClose(std::bit_cast<HANDLE>(search)) ? 0 : FailWithLastError();
+    return FindClose(reinterpret_cast<HANDLE>(search)) ? 0 : FailWithLastError();
 }

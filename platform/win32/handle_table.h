@@ -2,7 +2,6 @@
 
 #include <windef.h>
 
-#include <bit>
 #include <memory>
 #include <mutex>
 #include <utility>
@@ -23,7 +22,7 @@ public:
             ++slot;
         if (slot == objects_.size()) objects_.emplace_back();
         objects_[slot] = std::move(object);
-        return std::bit_cast<HANDLE>(first_ + slot * kStep);
+        return reinterpret_cast<HANDLE>(first_ + slot * kStep);
     }
     // Null for a handle that is not open.
     std::shared_ptr<Object> Get(HANDLE handle) {
@@ -41,7 +40,7 @@ private:
     static constexpr UINT_PTR kStep = 4;
 
     std::shared_ptr<Object>* Find(HANDLE handle) {
-        const UINT_PTR offset = std::bit_cast<UINT_PTR>(handle) - first_;
+        const UINT_PTR offset = reinterpret_cast<UINT_PTR>(handle) - first_;
         const bool known = offset % kStep == 0 && offset / kStep < objects_.size();
         return known ? &objects_[offset / kStep] : nullptr;
     }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <bit>
 #include <cstdint>
 
 // Published under this name for calls that a system library exports.
@@ -34,7 +33,7 @@ typedef WORD* LPWORD;
 typedef DWORD* LPDWORD;
 typedef LONG* PLONG;
 
-#define INVALID_HANDLE_VALUE (std::bit_cast<HANDLE>(static_cast<INT_PTR>(-1)))
+#define INVALID_HANDLE_VALUE (reinterpret_cast<HANDLE>(static_cast<INT_PTR>(-1)))
 
 // 100-nanosecond steps since the start of 1601, UTC.
 typedef struct _FILETIME {

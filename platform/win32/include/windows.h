@@ -7,5 +7,7 @@
 #include <windef.h>
 
 #include <fileapi.h>
+#include <winbase.h>
 #include <winerror.h>
+#include <wingdi.h>
 #include <winuser.h>

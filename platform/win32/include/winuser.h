@@ -1,10 +1,15 @@
 #pragma once
 
 #include <windef.h>
+#include <wingdi.h>
 
-// Message boxes. The values are those of the published header.
+#include <winuser_calls.h>
+#include <winuser_controls.h>
+#include <winuser_records.h>
+#include <winuser_values.h>
 
-typedef struct HWND__* HWND;
+// Windows, messages, controls and dialogs. The values are those of the published header; it is split by
+// subject here.
 
 #define MB_OK 0x0u
 #define MB_OKCANCEL 0x1u

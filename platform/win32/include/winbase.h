@@ -1,0 +1,35 @@
+#pragma once
+
+#include <windef.h>
+
+// Modules, resources, threads and waiting.
+
+#define INFINITE 0xffffffffu
+#define WAIT_OBJECT_0 0u
+#define WAIT_TIMEOUT 0x102u
+#define WAIT_FAILED 0xffffffffu
+
+extern "C" {
+
+// Null stands for the module that holds the main program.
+WINBASEAPI HMODULE WINAPI GetModuleHandleA(LPCSTR name);
+
+// Resources of a module; type and name are numbers made by MAKEINTRESOURCE.
+WINBASEAPI HRSRC WINAPI FindResourceA(HMODULE module, LPCSTR name, LPCSTR type);
+WINBASEAPI HGLOBAL WINAPI LoadResource(HMODULE module, HRSRC resource);
+WINBASEAPI LPVOID WINAPI LockResource(HGLOBAL resource);
+WINBASEAPI DWORD WINAPI SizeofResource(HMODULE module, HRSRC resource);
+
+WINBASEAPI DWORD WINAPI GetCurrentThreadId();
+WINBASEAPI DWORD WINAPI GetCurrentProcessId();
+WINBASEAPI HANDLE WINAPI GetCurrentProcess();
+WINBASEAPI DWORD WINAPI GetTickCount();
+WINBASEAPI void WINAPI Sleep(DWORD milliseconds);
+
+// Events and threads are closed by CloseHandle.
+WINBASEAPI HANDLE WINAPI CreateEventA(LPSECURITY_ATTRIBUTES security, BOOL manual, BOOL set, LPCSTR name);
+WINBASEAPI BOOL WINAPI SetEvent(HANDLE event);
+WINBASEAPI BOOL WINAPI ResetEvent(HANDLE event);
+WINBASEAPI DWORD WINAPI WaitForSingleObject(HANDLE object, DWORD milliseconds);
+WINBASEAPI BOOL WINAPI GetExitCodeThread(HANDLE thread, LPDWORD code);
+}

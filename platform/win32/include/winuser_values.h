@@ -1,0 +1,359 @@
+#pragma once
+
+#include <windef.h>
+
+// The numbers of windows and messages, as published.
+
+// Class styles.
+#define CS_VREDRAW 0x1u
+#define CS_HREDRAW 0x2u
+#define CS_DBLCLKS 0x8u
+
+// Window styles.
+#define WS_OVERLAPPED 0x00000000L
+#define WS_POPUP 0x80000000L
+#define WS_CHILD 0x40000000L
+#define WS_VISIBLE 0x10000000L
+#define WS_DISABLED 0x08000000L
+#define WS_CLIPSIBLINGS 0x04000000L
+#define WS_CLIPCHILDREN 0x02000000L
+#define WS_CAPTION 0x00C00000L
+#define WS_BORDER 0x00800000L
+#define WS_DLGFRAME 0x00400000L
+#define WS_VSCROLL 0x00200000L
+#define WS_HSCROLL 0x00100000L
+#define WS_SYSMENU 0x00080000L
+#define WS_THICKFRAME 0x00040000L
+#define WS_GROUP 0x00020000L
+#define WS_TABSTOP 0x00010000L
+
+#define WS_EX_DLGMODALFRAME 0x00000001L
+#define WS_EX_NOPARENTNOTIFY 0x00000004L
+#define WS_EX_TOPMOST 0x00000008L
+#define WS_EX_TOOLWINDOW 0x00000080L
+#define WS_EX_WINDOWEDGE 0x00000100L
+#define WS_EX_CLIENTEDGE 0x00000200L
+#define WS_EX_CONTEXTHELP 0x00000400L
+#define WS_EX_CONTROLPARENT 0x00010000L
+#define WS_EX_STATICEDGE 0x00020000L
+
+#define DS_SYSMODAL 0x2L
+#define DS_SETFONT 0x40L
+#define DS_MODALFRAME 0x80L
+#define DS_CONTROL 0x400L
+#define DS_CENTER 0x800L
+
+#define CW_USEDEFAULT (static_cast<int>(0x80000000u))
+#define HWND_DESKTOP (static_cast<HWND>(nullptr))
+
+// Words of a window and its class.
+#define GWLP_WNDPROC (-4)
+#define GWLP_HINSTANCE (-6)
+#define GWLP_HWNDPARENT (-8)
+#define GWLP_ID (-12)
+#define GWL_STYLE (-16)
+#define GWL_EXSTYLE (-20)
+#define GWLP_USERDATA (-21)
+#define DWLP_MSGRESULT 0
+#define DWLP_DLGPROC (DWLP_MSGRESULT + static_cast<int>(sizeof(LRESULT)))
+#define DWLP_USER (DWLP_DLGPROC + static_cast<int>(sizeof(LRESULT)))
+#define DLGWINDOWEXTRA 30
+
+#define GW_HWNDFIRST 0u
+#define GW_HWNDLAST 1u
+#define GW_HWNDNEXT 2u
+#define GW_HWNDPREV 3u
+#define GW_OWNER 4u
+#define GW_CHILD 5u
+
+#define GA_PARENT 1u
+#define GA_ROOT 2u
+
+#define SW_HIDE 0
+#define SW_SHOWNORMAL 1
+#define SW_SHOWNOACTIVATE 4
+#define SW_SHOW 5
+#define SW_SHOWNA 8
+
+#define SWP_NOSIZE 0x1u
+#define SWP_NOMOVE 0x2u
+#define SWP_NOZORDER 0x4u
+#define SWP_NOREDRAW 0x8u
+#define SWP_NOACTIVATE 0x10u
+#define SWP_FRAMECHANGED 0x20u
+#define SWP_SHOWWINDOW 0x40u
+#define SWP_HIDEWINDOW 0x80u
+#define SWP_NOCOPYBITS 0x100u
+#define SWP_NOOWNERZORDER 0x200u
+#define SWP_NOSENDCHANGING 0x400u
+#define HWND_TOP (reinterpret_cast<HWND>(static_cast<LONG_PTR>(0)))
+#define HWND_BOTTOM (reinterpret_cast<HWND>(static_cast<LONG_PTR>(1)))
+#define HWND_TOPMOST (reinterpret_cast<HWND>(static_cast<LONG_PTR>(-1)))
+#define HWND_NOTOPMOST (reinterpret_cast<HWND>(static_cast<LONG_PTR>(-2)))
+
+#define RDW_INVALIDATE 0x1u
+#define RDW_ERASE 0x4u
+#define RDW_VALIDATE 0x8u
+#define RDW_ALLCHILDREN 0x80u
+#define RDW_UPDATENOW 0x100u
+#define RDW_FRAME 0x400u
+
+#define SW_SCROLLCHILDREN 0x1u
+#define SW_INVALIDATE 0x2u
+#define SW_ERASE 0x4u
+
+#define PM_NOREMOVE 0x0u
+#define PM_REMOVE 0x1u
+
+// Messages.
+#define WM_NULL 0x0000u
+#define WM_CREATE 0x0001u
+#define WM_DESTROY 0x0002u
+#define WM_MOVE 0x0003u
+#define WM_SIZE 0x0005u
+#define WM_ACTIVATE 0x0006u
+#define WM_SETFOCUS 0x0007u
+#define WM_KILLFOCUS 0x0008u
+#define WM_ENABLE 0x000Au
+#define WM_SETREDRAW 0x000Bu
+#define WM_SETTEXT 0x000Cu
+#define WM_GETTEXT 0x000Du
+#define WM_GETTEXTLENGTH 0x000Eu
+#define WM_PAINT 0x000Fu
+#define WM_CLOSE 0x0010u
+#define WM_QUIT 0x0012u
+#define WM_ERASEBKGND 0x0014u
+#define WM_SHOWWINDOW 0x0018u
+#define WM_SETCURSOR 0x0020u
+#define WM_MOUSEACTIVATE 0x0021u
+#define WM_GETMINMAXINFO 0x0024u
+#define WM_NEXTDLGCTL 0x0028u
+#define WM_SETFONT 0x0030u
+#define WM_GETFONT 0x0031u
+#define WM_WINDOWPOSCHANGING 0x0046u
+#define WM_WINDOWPOSCHANGED 0x0047u
+#define WM_NOTIFY 0x004Eu
+#define WM_HELP 0x0053u
+#define WM_STYLECHANGING 0x007Cu
+#define WM_STYLECHANGED 0x007Du
+#define WM_GETICON 0x007Fu
+#define WM_SETICON 0x0080u
+#define WM_NCCREATE 0x0081u
+#define WM_NCDESTROY 0x0082u
+#define WM_NCCALCSIZE 0x0083u
+#define WM_NCHITTEST 0x0084u
+#define WM_NCPAINT 0x0085u
+#define WM_NCACTIVATE 0x0086u
+#define WM_GETDLGCODE 0x0087u
+#define WM_NCMOUSEMOVE 0x00A0u
+#define WM_NCLBUTTONDOWN 0x00A1u
+#define WM_NCLBUTTONUP 0x00A2u
+#define WM_KEYFIRST 0x0100u
+#define WM_KEYDOWN 0x0100u
+#define WM_KEYUP 0x0101u
+#define WM_CHAR 0x0102u
+#define WM_SYSKEYDOWN 0x0104u
+#define WM_SYSKEYUP 0x0105u
+#define WM_SYSCHAR 0x0106u
+#define WM_KEYLAST 0x0109u
+#define WM_INITDIALOG 0x0110u
+#define WM_COMMAND 0x0111u
+#define WM_SYSCOMMAND 0x0112u
+#define WM_HSCROLL 0x0114u
+#define WM_VSCROLL 0x0115u
+#define WM_CTLCOLOREDIT 0x0133u
+#define WM_CTLCOLORLISTBOX 0x0134u
+#define WM_CTLCOLORBTN 0x0135u
+#define WM_CTLCOLORDLG 0x0136u
+#define WM_CTLCOLORSCROLLBAR 0x0137u
+#define WM_CTLCOLORSTATIC 0x0138u
+#define WM_MOUSEFIRST 0x0200u
+#define WM_MOUSEMOVE 0x0200u
+#define WM_LBUTTONDOWN 0x0201u
+#define WM_LBUTTONUP 0x0202u
+#define WM_LBUTTONDBLCLK 0x0203u
+#define WM_RBUTTONDOWN 0x0204u
+#define WM_RBUTTONUP 0x0205u
+#define WM_RBUTTONDBLCLK 0x0206u
+#define WM_MOUSEWHEEL 0x020Au
+#define WM_MOUSELAST 0x020Au
+#define WM_PARENTNOTIFY 0x0210u
+#define WM_CAPTURECHANGED 0x0215u
+#define WM_CUT 0x0300u
+#define WM_COPY 0x0301u
+#define WM_PASTE 0x0302u
+#define WM_CLEAR 0x0303u
+#define WM_UNDO 0x0304u
+#define WM_USER 0x0400u
+#define WM_APP 0x8000u
+#define DM_GETDEFID (WM_USER + 0u)
+#define DM_SETDEFID (WM_USER + 1u)
+#define DC_HASDEFID 0x534B
+
+#define SIZE_RESTORED 0
+#define WA_INACTIVE 0
+#define WA_ACTIVE 1
+#define WA_CLICKACTIVE 2
+#define MA_ACTIVATE 1
+#define ICON_SMALL 0
+#define ICON_BIG 1
+#define SC_CLOSE 0xF060u
+#define SC_CONTEXTHELP 0xF180u
+
+#define HTERROR (-2)
+#define HTTRANSPARENT (-1)
+#define HTNOWHERE 0
+#define HTCLIENT 1
+#define HTCAPTION 2
+#define HTSYSMENU 3
+#define HTHSCROLL 6
+#define HTVSCROLL 7
+#define HTLEFT 10
+#define HTRIGHT 11
+#define HTTOP 12
+#define HTTOPLEFT 13
+#define HTTOPRIGHT 14
+#define HTBOTTOM 15
+#define HTBOTTOMLEFT 16
+#define HTBOTTOMRIGHT 17
+#define HTBORDER 18
+#define HTCLOSE 20
+#define HTHELP 21
+
+#define MK_LBUTTON 0x1u
+#define MK_RBUTTON 0x2u
+#define MK_SHIFT 0x4u
+#define MK_CONTROL 0x8u
+
+#define VK_LBUTTON 0x01
+#define VK_RBUTTON 0x02
+#define VK_BACK 0x08
+#define VK_TAB 0x09
+#define VK_RETURN 0x0D
+#define VK_SHIFT 0x10
+#define VK_CONTROL 0x11
+#define VK_MENU 0x12
+#define VK_ESCAPE 0x1B
+#define VK_SPACE 0x20
+#define VK_PRIOR 0x21
+#define VK_NEXT 0x22
+#define VK_END 0x23
+#define VK_HOME 0x24
+#define VK_LEFT 0x25
+#define VK_UP 0x26
+#define VK_RIGHT 0x27
+#define VK_DOWN 0x28
+#define VK_DELETE 0x2E
+#define VK_F1 0x70
+#define VK_F4 0x73
+
+#define DLGC_WANTARROWS 0x1
+#define DLGC_WANTTAB 0x2
+#define DLGC_WANTALLKEYS 0x4
+#define DLGC_WANTMESSAGE 0x4
+#define DLGC_HASSETSEL 0x8
+#define DLGC_DEFPUSHBUTTON 0x10
+#define DLGC_UNDEFPUSHBUTTON 0x20
+#define DLGC_RADIOBUTTON 0x40
+#define DLGC_WANTCHARS 0x80
+#define DLGC_STATIC 0x100
+#define DLGC_BUTTON 0x2000
+
+#define SB_HORZ 0
+#define SB_VERT 1
+#define SB_LINEUP 0
+#define SB_LINEDOWN 1
+#define SB_PAGEUP 2
+#define SB_PAGEDOWN 3
+#define SB_THUMBPOSITION 4
+#define SB_THUMBTRACK 5
+#define SB_TOP 6
+#define SB_BOTTOM 7
+#define SB_ENDSCROLL 8
+#define SIF_RANGE 0x1u
+#define SIF_PAGE 0x2u
+#define SIF_POS 0x4u
+#define SIF_DISABLENOSCROLL 0x8u
+#define SIF_TRACKPOS 0x10u
+#define SIF_ALL (SIF_RANGE | SIF_PAGE | SIF_POS | SIF_TRACKPOS)
+
+#define SM_CXSCREEN 0
+#define SM_CYSCREEN 1
+#define SM_CXVSCROLL 2
+#define SM_CYHSCROLL 3
+#define SM_CYCAPTION 4
+#define SM_CXBORDER 5
+#define SM_CYBORDER 6
+#define SM_CXDLGFRAME 7
+#define SM_CYDLGFRAME 8
+#define SM_CYVTHUMB 9
+#define SM_CXFRAME 32
+#define SM_CYFRAME 33
+#define SM_CXEDGE 45
+#define SM_CYEDGE 46
+
+#define COLOR_SCROLLBAR 0
+#define COLOR_ACTIVECAPTION 2
+#define COLOR_INACTIVECAPTION 3
+#define COLOR_WINDOW 5
+#define COLOR_WINDOWFRAME 6
+#define COLOR_WINDOWTEXT 8
+#define COLOR_CAPTIONTEXT 9
+#define COLOR_HIGHLIGHT 13
+#define COLOR_HIGHLIGHTTEXT 14
+#define COLOR_BTNFACE 15
+#define COLOR_BTNSHADOW 16
+#define COLOR_GRAYTEXT 17
+#define COLOR_BTNTEXT 18
+#define COLOR_INACTIVECAPTIONTEXT 19
+#define COLOR_BTNHIGHLIGHT 20
+#define COLOR_3DDKSHADOW 21
+#define COLOR_3DLIGHT 22
+
+#define BDR_RAISEDOUTER 0x1u
+#define BDR_SUNKENOUTER 0x2u
+#define BDR_RAISEDINNER 0x4u
+#define BDR_SUNKENINNER 0x8u
+#define EDGE_RAISED (BDR_RAISEDOUTER | BDR_RAISEDINNER)
+#define EDGE_SUNKEN (BDR_SUNKENOUTER | BDR_SUNKENINNER)
+#define EDGE_ETCHED (BDR_SUNKENOUTER | BDR_RAISEDINNER)
+#define BF_LEFT 0x1u
+#define BF_TOP 0x2u
+#define BF_RIGHT 0x4u
+#define BF_BOTTOM 0x8u
+#define BF_RECT (BF_LEFT | BF_TOP | BF_RIGHT | BF_BOTTOM)
+#define BF_MIDDLE 0x800u
+#define BF_ADJUST 0x2000u
+
+#define DT_LEFT 0x0u
+#define DT_CENTER 0x1u
+#define DT_RIGHT 0x2u
+#define DT_VCENTER 0x4u
+#define DT_WORDBREAK 0x10u
+#define DT_SINGLELINE 0x20u
+#define DT_EXPANDTABS 0x40u
+#define DT_NOCLIP 0x100u
+#define DT_CALCRECT 0x400u
+#define DT_NOPREFIX 0x800u
+
+#define GR_GDIOBJECTS 0u
+#define GR_USEROBJECTS 1u
+
+#define WH_GETMESSAGE 3
+#define WH_CBT 5
+#define HCBT_CREATEWND 3
+#define HCBT_DESTROYWND 4
+#define HCBT_ACTIVATE 5
+
+#define HELPINFO_WINDOW 1
+
+#define MAKEINTRESOURCEA(id) (reinterpret_cast<LPSTR>(static_cast<ULONG_PTR>(static_cast<WORD>(id))))
+#define MAKEINTRESOURCE MAKEINTRESOURCEA
+#define IS_INTRESOURCE(name) ((reinterpret_cast<ULONG_PTR>(name) >> 16) == 0)
+#define MAKEINTATOM(atom) (reinterpret_cast<LPSTR>(static_cast<ULONG_PTR>(static_cast<WORD>(atom))))
+#define RT_ICON MAKEINTRESOURCEA(3)
+#define RT_DIALOG MAKEINTRESOURCEA(5)
+#define RT_GROUP_ICON MAKEINTRESOURCEA(14)
+#define RT_VERSION MAKEINTRESOURCEA(16)
+#define IDC_ARROW MAKEINTRESOURCEA(32512)
+#define IDI_APPLICATION MAKEINTRESOURCEA(32512)

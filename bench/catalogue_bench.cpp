@@ -192,5 +192,3 @@ BENCHMARK(LookUpInHashTable)->RangeMultiplier(10)->Range(1000, 100000)->Unit(ben
 BENCHMARK(GetClasses)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
-
-BENCHMARK_MAIN();

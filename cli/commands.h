@@ -1,5 +1,6 @@
 #pragma once
 
+#include <istream>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -28,3 +29,24 @@ int RunSet(const std::string& file, const std::vector<std::string>& assignments,
 int RunCarry(const std::string& from, const std::string& to, bool dryRun, Streams streams);
 
 int RunCheck(const std::vector<std::string>& files, Streams streams);
+
+// Lists a catalogue: all of it, or the scripts of one class, in any case of letters. `file` may be the folder
+// that it lies in, and empty for the current one.
+int RunCatalogue(const std::string& file, const std::string& scriptClass, bool json, Streams streams);
+
+enum class ProjectAction { Show, Add, Remove, Restore, Update, Set, Notes };
+
+struct ProjectRequest {
+    ProjectAction action = ProjectAction::Show;
+    std::string folder;     // or the project file
+    std::string catalogue;  // empty: looked for
+    std::vector<std::string> names;
+    std::vector<std::string> assignments;  // for Set, as for RunSet
+    bool all = false;                      // for Update: everything that it lists
+    bool force = false;                    // for Update: what does not differ, too
+    bool yes = false;
+};
+
+// Shows and changes what a project has installed. Questions are put to `terminal`; without one, which is
+// null, they are answered with no.
+int RunProject(const ProjectRequest& request, std::istream* terminal, Streams streams);

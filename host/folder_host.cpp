@@ -40,7 +40,7 @@ bool EqualPaths(const std::string& a, const char* b) {
 }  // namespace
 
 std::unique_ptr<FolderHost> FolderHost::Open(const std::string& path, std::string& error) {
-    std::string file = PathFrom("", file_t::AbsPath(PathFrom(".", path).c_str()).GetString());
+    std::string file = FullPath(path);
     if (file_t::DirExist(file.c_str())) file = PathFrom(file, kProjectFileName);
     ScriptFile content;
     if (!content.Load(file.c_str())) {

@@ -26,6 +26,8 @@ public:
 
     AppInterface* App() { return &app_; }
     HostProject Project() const;
+    // The full path of the project file; empty without one.
+    const std::string& ProjectFile() const { return projectFile_; }
 
     // Writes main script, actions, flags and skills into the project file as far as they have changed; its
     // other lines stay. True without a change and without a file; false leaves the old file.
@@ -86,7 +88,7 @@ private:
     mutable std::mutex mutex_;
     AppInterface app_{};
     HostProject project_;
-    std::string projectFile_;  // empty without one
+    std::string projectFile_;  // set once, by Open
     std::string chosenFile_;
     bool recording_ = false;
     std::vector<std::string> calls_;

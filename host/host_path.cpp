@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "support/file_objects.h"
+
 namespace {
 
 bool IsFull(std::string_view path) {
@@ -43,4 +45,9 @@ std::string PathFrom(std::string_view folder, std::string_view path) {
         rest.remove_prefix(std::min(size + 1, rest.size()));
     }
     return full;
+}
+
+std::string FullPath(std::string_view path) {
+    const std::string current = PathFrom("", file_t::AbsPath(".").GetString());
+    return file_t::AbsPath(PathFrom(current, path).c_str()).GetString();
 }

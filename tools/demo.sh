@@ -1,6 +1,7 @@
 #!/bin/bash
-# The main job on a real script: tell its values, set one of every kind, show that nothing else changed, and carry
-# the values into a newer version of the script. Works on copies; the samples stay as they are.
+# Two roads through the samples, on copies. The first is that of one script: tell its values, set one of every
+# kind, show that nothing else changed, and carry the values into a newer version. The second is that of a
+# project: look into the catalogue, add a script, customize it, update another one, take scripts out again.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
@@ -43,3 +44,30 @@ run carry project/hero.brl templates/template_6/hero.brl
 
 say '6. What a script author should know'
 run check "$samples"/broken/lost_entries.brl || true
+
+say '7. What there is for a project: the catalogue of its templates (one class of it)'
+cp -r "$samples" "$play/lamplight"
+run catalogue lamplight --class World
+
+say '8. What the project has installed'
+run project lamplight show
+
+say '9. A script that others need is not taken out before them'
+run project lamplight remove Messages || echo "(exit status $?)"
+run project lamplight remove Hero Messages
+
+say '10. A script is added with what it needs; of a door each is a copy with its own number'
+run project lamplight add Enemies Door
+
+say '11. Enemies is customized: the first value that is set makes the project its own copy'
+run project lamplight set Enemies 'Sight=450' 'Patience=20'
+
+say '12. A newer Enemies comes out; the update keeps the values'
+sed -i -e 's|^// ver: 35|// ver: 36|' -e 's|^// entry: Patience|// entry: Endurance|' \
+    lamplight/templates/template_6/enemy.brl
+run project lamplight update
+run project lamplight update --all --yes
+
+say '13. Back to the template: the copy goes, and with it the star'
+run project lamplight restore Enemies --yes
+run project lamplight show

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 
 #include "temp_folder.h"
 
@@ -14,18 +15,16 @@ std::string Bytes(const ScriptText& text) {
 
 TEST(ScriptText, BroughtToItsClosingForm) {
     using namespace std::string_literals;
-    const struct {
-        std::string bytes;
-        std::string closed;
-    } cases[] = {{"a", "a\r\n\0"s},      {"a\r\n", "a\r\n\r\n\0"s}, {"a\r\n\0"s, "a\r\n\0"s},
-                 {"\r\n\0"s, "\r\n\0"s}, {"\n\0"s, "\n\0\r\n\0"s},  {"", ""}};
+    const std::pair<std::string, std::string> cases[] = {{"a", "a\r\n\0"s},        {"a\r\n", "a\r\n\r\n\0"s},
+                                                         {"a\r\n\0"s, "a\r\n\0"s}, {"\r\n\0"s, "\r\n\0"s},
+                                                         {"\n\0"s, "\n\0\r\n\0"s}, {"", ""}};
     TempFolder folder;
-    for (const auto& c : cases) {
-        folder.Write("a.brl", c.bytes);
+    for (const auto& [bytes, closed] : cases) {
+        folder.Write("a.brl", bytes);
         ScriptText text;
         ASSERT_TRUE(text.Load(folder.Name("a.brl").c_str()));
-        EXPECT_EQ(Bytes(text), c.closed) << c.bytes;
-        EXPECT_EQ(text.WasClosed(), c.bytes == c.closed) << c.bytes;
+        EXPECT_EQ(Bytes(text), closed) << bytes;
+        EXPECT_EQ(text.WasClosed(), bytes == closed) << bytes;
     }
     ScriptText text;
     EXPECT_FALSE(text.Load(folder.Name("none.brl").c_str()));

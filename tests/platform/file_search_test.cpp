@@ -1,33 +1,36 @@
 #include <afx.h>
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <io.h>
 
 #include <cerrno>
+#include <set>
 #include <string>
-#include <vector>
+#include <utility>
 
 #include "platform/current_folder.h"
 #include "temp_folder.h"
 
-using testing::ElementsAre;
-using testing::UnorderedElementsAreArray;
-
 namespace {
 
-using Names = std::vector<std::string>;
+// The names in the order of their bytes, each with a blank behind it.
+std::string Joined(const std::set<std::string>& names) {
+    std::string text;
+    for (const std::string& name : names)
+        text.append(name) += ' ';
+    return text;
+}
 
-Names Find(const std::string& pattern) {
-    Names names;
+std::string Find(const std::string& pattern) {
+    std::set<std::string> names;
     WIN32_FIND_DATAA found;
     const HANDLE search = FindFirstFileA(pattern.c_str(), &found);
-    if (search == INVALID_HANDLE_VALUE) return names;
+    if (search == INVALID_HANDLE_VALUE) return "";
     do {
-        names.emplace_back(found.cFileName);
+        EXPECT_TRUE(names.insert(found.cFileName).second) << pattern;
     } while (FindNextFileA(search, &found));
     EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_NO_MORE_FILES)) << pattern;
     EXPECT_TRUE(FindClose(search));
-    return names;
+    return Joined(names);
 }
 
 class FileSearch : public testing::Test {
@@ -41,99 +44,43 @@ protected:
     TempFolder folder;
 };
 
-TEST_F(FileSearch, FindsWhatFitsThePattern) {
-    const Names all{".", "..", "a.txt", "ab", "b.TXT", "noext", "Sub", "x.y.txt"};
-    const struct {
-        const char* pattern;
-        Names names;
-    } cases[] = {
-        {"*", all},
-        {"*.*", all},
-        {"*.txt", {"a.txt", "b.TXT", "x.y.txt"}},
-        {"x*txt", {"x.y.txt"}},
-        {"a*", {"a.txt", "ab"}},
-        {"A?", {"ab"}},
-        {"?.txt", {"a.txt", "b.TXT"}},
-        {"noext.*", {"noext"}},
-        {"*z*", {}},
-        {"sub\\*.*", {".", "..", "in.dat"}},
-        {"SUB/i*", {"in.dat"}},
-        {"nosuch\\*", {}},
-        {"*\\", {}},
+TEST_F(FileSearch, FindsWhatFitsAsItIsSpelled) {
+    const char* const all = ". .. Sub a.txt ab b.TXT noext x.y.txt ";
+    const std::pair<const char*, const char*> cases[] = {
+        {"*.txt", "a.txt b.TXT x.y.txt "},  {"x*txt", "x.y.txt "},     {"A?", "ab "},         {"*", all},
+        {"sub\\*.*", ". .. in.dat "},       {"?.txt", "a.txt b.TXT "}, {"sub", "Sub "},       {"*.*", all},
+        {"Sub\\\\IN.dat", "in.dat "},       {"noext.*", "noext "},     {"Sub\\.", "Sub "},    {"*z*", ""},
+        {"Sub\\..\\A.txt", "a.txt "},       {"SUB/i*", "in.dat "},     {"a.txt\\", ""},       {"*\\", ""},
+        {"nosuch\\.\\..\\a.txt", "a.txt "}, {"a.txt. .", "a.txt "},    {"a.txt\\in.dat", ""}, {"...", ""},
     };
-    for (const auto& c : cases)
-        EXPECT_THAT(Find(folder.Name(c.pattern)), UnorderedElementsAreArray(c.names)) << c.pattern;
-}
-
-TEST_F(FileSearch, TellsANameAsItIsSpelled) {
-    const struct {
-        const char* name;
-        Names names;
-    } cases[] = {
-        {"A.TXT", {"a.txt"}},
-        {"a.txt. .", {"a.txt"}},
-        {"sub", {"Sub"}},
-        {"SUB\\IN.DAT", {"in.dat"}},
-        {"sub/in.dat", {"in.dat"}},
-        {"Sub\\\\in.dat", {"in.dat"}},
-        {"Sub\\..\\a.txt", {"a.txt"}},
-        {"nosuch\\.\\..\\a.txt", {"a.txt"}},
-        {"Sub\\.", {"Sub"}},
-        {"sub\\", {}},
-        {"a.txt\\", {}},
-        {"a.txt\\in.dat", {}},
-        {"...", {}},
-        {"nosuch", {}},
-    };
-    for (const auto& c : cases)
-        EXPECT_THAT(Find(folder.Name(c.name)), UnorderedElementsAreArray(c.names)) << c.name;
+    for (const auto& [pattern, names] : cases)
+        EXPECT_EQ(Find(folder.Name(pattern)), names) << pattern;
 }
 
 TEST_F(FileSearch, StartsAtTheCurrentFolder) {
     const CurrentFolder current(folder.Name("sub"));
-    EXPECT_THAT(Find("IN.*"), ElementsAre("in.dat"));
-    EXPECT_THAT(Find("..\\A.txt"), ElementsAre("a.txt"));
-    EXPECT_THAT(Find("."), ElementsAre("Sub"));
     const std::string drive = folder.Name().substr(0, 2);
-    EXPECT_THAT(Find(drive + "in.dat"), ElementsAre("in.dat"));
-    EXPECT_THAT(Find(folder.Name("ab").substr(2)), ElementsAre("ab"));
+    EXPECT_EQ(Find("IN.*"), "in.dat ");
+    EXPECT_EQ(Find("..\\A.txt"), "a.txt ");
+    EXPECT_EQ(Find("."), "Sub ");
+    EXPECT_EQ(Find(drive + "in.dat"), "in.dat ");
+    EXPECT_EQ(Find(folder.Name("ab").substr(2)), "ab ");
     for (const std::string& name : {drive, drive + "\\", drive + "\\.", std::string("\\")})
-        EXPECT_THAT(Find(name), ElementsAre()) << name;
-}
-
-TEST_F(FileSearch, TellsKindAndSize) {
-    WIN32_FIND_DATAA found;
-    FindClose(FindFirstFileA(folder.Name("A.txt").c_str(), &found));
-    EXPECT_FALSE(found.dwFileAttributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY));
-    EXPECT_EQ(found.nFileSizeLow, 5u);
-    EXPECT_EQ(found.nFileSizeHigh, 0u);
-    FindClose(FindFirstFileA(folder.Name("SUB").c_str(), &found));
-    EXPECT_TRUE(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY);
-    EXPECT_EQ(found.nFileSizeLow, 0u);
-    EXPECT_EQ(GetFileAttributesA(folder.Name("SUB\\").c_str()), found.dwFileAttributes);
+        EXPECT_EQ(Find(name), "") << name;
 }
 
 TEST_F(FileSearch, TellsWhyThereIsNothing) {
-    const struct {
-        std::string pattern;
-        DWORD error;
-    } cases[] = {
-        {folder.Name("nosuch"), ERROR_FILE_NOT_FOUND},    {folder.Name("sub\\"), ERROR_FILE_NOT_FOUND},
-        {folder.Name("z*"), ERROR_FILE_NOT_FOUND},        {folder.Name("nosuch\\*"), ERROR_PATH_NOT_FOUND},
-        {folder.Name("nosuch\\x"), ERROR_PATH_NOT_FOUND}, {"", ERROR_PATH_NOT_FOUND},
-        {folder.Name("s*\\in.dat"), ERROR_INVALID_NAME},
+    const std::pair<const char*, DWORD> cases[] = {
+        {"nosuch", ERROR_FILE_NOT_FOUND},    {"sub\\", ERROR_FILE_NOT_FOUND},
+        {"nosuch\\*", ERROR_PATH_NOT_FOUND}, {"nosuch\\x", ERROR_PATH_NOT_FOUND},
+        {"s*\\in.dat", ERROR_INVALID_NAME},
     };
-    for (const auto& c : cases) {
-        WIN32_FIND_DATAA found;
-        EXPECT_EQ(FindFirstFileA(c.pattern.c_str(), &found), INVALID_HANDLE_VALUE) << c.pattern;
-        EXPECT_EQ(GetLastError(), c.error) << c.pattern;
-    }
-    EXPECT_EQ(GetFileAttributesA(folder.Name("nosuch").c_str()), INVALID_FILE_ATTRIBUTES);
-    EXPECT_EQ(GetFileAttributesA(folder.Name("*").c_str()), INVALID_FILE_ATTRIBUTES);
-}
-
-TEST_F(FileSearch, RefusesBadHandles) {
     WIN32_FIND_DATAA found;
+    for (const auto& [pattern, error] : cases) {
+        EXPECT_EQ(FindFirstFileA(folder.Name(pattern).c_str(), &found), INVALID_HANDLE_VALUE) << pattern;
+        EXPECT_EQ(GetLastError(), error) << pattern;
+    }
+    EXPECT_EQ(GetFileAttributesA(folder.Name("*").c_str()), INVALID_FILE_ATTRIBUTES);
     for (const HANDLE bad : {INVALID_HANDLE_VALUE, static_cast<HANDLE>(nullptr)}) {
         EXPECT_FALSE(FindNextFileA(bad, &found));
         EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INVALID_HANDLE));
@@ -145,21 +92,19 @@ TEST_F(FileSearch, GoesTheSameByTheRunTimeLibrary) {
     _finddata_t found;
     const intptr_t search = _findfirst(folder.Name("?*b*").c_str(), &found);
     ASSERT_NE(search, -1);
-    Names names;
+    std::set<std::string> names;
     do {
-        names.emplace_back(found.name);
+        names.insert(found.name);
         const bool isFolder = found.attrib & _A_SUBDIR;
-        EXPECT_EQ(isFolder, names.back() == "Sub");
+        EXPECT_EQ(isFolder, found.name == std::string("Sub"));
         EXPECT_EQ(found.size, isFolder ? 0u : 5u);
+        EXPECT_FALSE(found.attrib & _A_RDONLY);
     } while (_findnext(search, &found) == 0);
     EXPECT_EQ(errno, ENOENT);
     EXPECT_EQ(_findclose(search), 0);
-    EXPECT_THAT(names, UnorderedElementsAreArray({"ab", "Sub"}));
-    for (const char* name : {"nosuch", "Sub\\", "nosuch\\x"}) {
-        errno = 0;
-        EXPECT_EQ(_findfirst(folder.Name(name).c_str(), &found), -1) << name;
-        EXPECT_EQ(errno, ENOENT) << name;
-    }
+    EXPECT_EQ(Joined(names), "Sub ab ");
+    EXPECT_EQ(_findfirst(folder.Name("nosuch\\x").c_str(), &found), -1);
+    EXPECT_EQ(errno, ENOENT);
 }
 
 }  // namespace

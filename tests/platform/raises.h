@@ -2,14 +2,19 @@
 
 #include <afx.h>
 
-// Whether the call raises the framework's exception for a bad argument.
-template <typename Call>
-bool RaisesInvalidArg(Call call) {
+// Whether the call raises that exception of the framework.
+template <typename Exception, typename Call>
+bool Raises(Call call) {
     try {
         call();
-    } catch (CInvalidArgException* exception) {
+    } catch (Exception* exception) {
         exception->Delete();
         return true;
     }
     return false;
+}
+
+template <typename Call>
+bool RaisesInvalidArg(Call call) {
+    return Raises<CInvalidArgException>(call);
 }

@@ -40,25 +40,19 @@ TEST_F(ProjectFaultsTest, TheMainScriptSurvivesAFullDisk) {
     EXPECT_GT(written, 0);
 }
 
-TEST_F(ProjectFaultsTest, TheCopySurvivesAnUpdateThatFails) {
+TEST_F(ProjectFaultsTest, CopiesThatFail) {
     WriteTemplate("a.brl", "the new text");
     folder.Write("project/a.brl", "old");
     SetFileFaults({.failingWrite = 1, .failures = 1});
     EXPECT_EQ(TemplateSwap::NotRestored, ReplaceByTemplate(host.get(), "a.brl"));
-    SetFileFaults({});
     EXPECT_EQ("old", folder.Read("project/a.brl"));
     EXPECT_EQ(TakeBoxes(), std::vector{Titled("Copy error (1128).\nNo Update.", MB_OK)});
-    SetFileFaults({.failingWrite = 1});
-    EXPECT_EQ(TemplateSwap::CopyLost, ReplaceByTemplate(host.get(), "a.brl"));
-}
 
-// The number is free again, and nothing is included.
-TEST_F(ProjectFaultsTest, ANumberedCopyThatFailsLeavesNothing) {
+    // A number is free again, and nothing is included.
     WriteTemplate("door_.brl", "var door%_%;\n");
     WriteMain("var x;\n");
     SetFileFaults({.goodBytes = 4, .failures = 1});
     EXPECT_EQ(InstallResult::TemplateNotCopied, Install(host.get(), Template("door_.brl").c_str()));
-    SetFileFaults({});
     EXPECT_FALSE(HasCopy("door_0.brl"));
     EXPECT_EQ("var x;\n", Main());
 }

@@ -63,7 +63,7 @@ protected:
     // The boxes shown since the last time.
     std::vector<std::string> TakeBoxes() { return std::exchange(boxes, {}); }
 
-    // A text behind the application's name, which differs from program to program.
+    // A text with the application's name, which differs from program to program.
     std::string Titled(const std::string& text, unsigned type) const {
         return text + "|" + AfxGetAppName() + "|" + std::to_string(type);
     }

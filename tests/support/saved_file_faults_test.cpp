@@ -45,32 +45,34 @@ TEST_F(SavedFileFaults, AnyFailingWriteBringsTheOldContentBack) {
     }
 }
 
-TEST_F(SavedFileFaults, HalfAWriteBringsTheOldContentBack) {
+TEST_F(SavedFileFaults, HalfAWriteAndAFullDiskBringTheOldContentBack) {
     const std::string old(10000, 'a');
+    folder_.Write("a", old);
     for (const uint64_t good : {0, 1, 5000, 9999}) {
-        folder_.Write("a", old);
         FileFaults faults;
         faults.goodBytes = good;
         faults.failures = 1;
         EXPECT_EQ(SavedFileResult::CannotWrite, Save(faults, std::string(10000, 'b'))) << good;
         EXPECT_TRUE(Holds(old)) << good;
     }
-}
-
-TEST_F(SavedFileFaults, AFullDiskCostsNothing) {
     folder_.Write("a", "old");
     FileFaults full;
     full.goodBytes = 10;  // and every write after the failing one fails too
     EXPECT_EQ(SavedFileResult::CannotWrite, Save(full, "much longer than before"));
     EXPECT_TRUE(Holds("old"));
+    FileFaults broken;
+    broken.failingWrite = 1;
+    EXPECT_EQ(SavedFileResult::CannotRestore, Save(broken, "new"));
 }
 
 TEST_F(SavedFileFaults, AFailingCloseBringsTheOldContentBack) {
-    FileFaults faults;
-    faults.closeFails = true;
+    FileFaults closing;
+    closing.closeFails = true;
+    EXPECT_EQ(SavedFileResult::CannotWrite, Save(closing, "new"));
+    EXPECT_FALSE(folder_.Has("a"));
+    folder_.Write("a", "old text");
     for (const std::string bytes : {"", "new", "longer than the old"}) {
-        folder_.Write("a", "old text");
-        EXPECT_EQ(SavedFileResult::CannotWrite, Save(faults, bytes));
+        EXPECT_EQ(SavedFileResult::CannotWrite, Save(closing, bytes));
         EXPECT_TRUE(Holds("old text")) << bytes;
     }
 }
@@ -78,19 +80,8 @@ TEST_F(SavedFileFaults, AFailingCloseBringsTheOldContentBack) {
 TEST_F(SavedFileFaults, ANewFileIsGoneAgain) {
     FileFaults writing;
     writing.failingWrite = 1;
-    FileFaults closing;
-    closing.closeFails = true;
-    for (const FileFaults& faults : {writing, closing}) {
-        EXPECT_EQ(SavedFileResult::CannotWrite, Save(faults, "new"));
-        EXPECT_FALSE(folder_.Has("a"));
-    }
-}
-
-TEST_F(SavedFileFaults, TellsWhenTheOldContentIsLost) {
-    folder_.Write("a", "old");
-    FileFaults broken;
-    broken.failingWrite = 1;
-    EXPECT_EQ(SavedFileResult::CannotRestore, Save(broken, "new"));
+    EXPECT_EQ(SavedFileResult::CannotWrite, Save(writing, "new"));
+    EXPECT_FALSE(folder_.Has("a"));
 }
 
 }  // namespace

@@ -64,7 +64,7 @@ grep -nE '#include <[^>]*\.[^>]*>' "${product[@]}" | grep -vE \
 may_include() {
     case $1 in
         support) echo 'support' ;;
-        controls | customize) echo 'support controls customize' ;;
+        controls | customize) echo 'support controls customize resources' ;;
         catalogue) echo 'support customize catalogue' ;;
         manager) echo 'support controls customize catalogue manager' ;;
         shell) echo 'support controls customize catalogue manager shell' ;;

@@ -48,6 +48,13 @@ start_display() {
     [ "$DISPLAY" != : ]
 }
 
+# Windows get the focus in a desktop of Wine's own only, not on a bare display.
+use_own_desktop() {
+    local key='HKCU\Software\Wine\Explorer'
+    timeout 120 "$WINELOADER" reg add "$key" /v Desktop /d brlv /f &&
+        timeout 120 "$WINELOADER" reg add "$key\Desktops" /v brlv /d 1024x768 /f
+}
+
 tools/install_packages.sh cmake ninja-build googletest libcli11-dev nlohmann-json3-dev \
     "g++-mingw-w64-${world//_/-}-posix" || skip "packages are missing"
 cmake --preset "$preset" >"build/$preset.configure.log" || { cat "build/$preset.configure.log"; exit 1; }
@@ -63,6 +70,7 @@ esac
 use_wine "$world"
 trap clean_up EXIT
 start_display || { echo "run_windows_tests: no display could be started" >&2; exit 1; }
+use_own_desktop >/dev/null 2>&1 || { echo "run_windows_tests: Wine has no desktop" >&2; exit 1; }
 ctest --preset "$preset" --no-tests=error
 status=$?
 tools/count_cases.sh "build/$preset"

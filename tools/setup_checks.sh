@@ -3,7 +3,7 @@
 # benchmark library and the opponents in the benchmarks.
 set -euo pipefail
 cd "$(dirname "$0")"
-./install_packages.sh clang clang-tidy clang-format libbenchmark-dev libpugixml-dev libtinyxml2-dev
+./install_packages.sh clang clang-tidy clang-format libbenchmark-dev libpugixml-dev libtinyxml2-dev libstb-dev
 # The run-time libraries must fit the clang that is there.
 version=$(clang -dumpversion)
 ./install_packages.sh "libclang-rt-${version%%.*}-dev" "llvm-${version%%.*}"

@@ -3,6 +3,7 @@
 CException::~CException() = default;
 CInvalidArgException::~CInvalidArgException() = default;
 CFileException::~CFileException() = default;
+CResourceException::~CResourceException() = default;
 
 void CException::Delete() {
     if (m_bAutoDelete) delete this;
@@ -16,4 +17,9 @@ void AfxThrowInvalidArgException() {
 
 void AfxThrowFileException(int cause) {
     throw new CFileException(cause);
+}
+
+void AfxThrowResourceException() {
+    static CResourceException refused(FALSE);
+    throw &refused;
 }

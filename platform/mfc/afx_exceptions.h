@@ -36,5 +36,13 @@ public:
     int m_cause;
 };
 
+// A window class, a menu or another resource of the system that was refused.
+class CResourceException : public CException {
+public:
+    explicit CResourceException(BOOL autoDelete) : CException(autoDelete) {}
+    ~CResourceException() override;
+};
+
 [[noreturn]] void AfxThrowInvalidArgException();
 [[noreturn]] void AfxThrowFileException(int cause);
+[[noreturn]] void AfxThrowResourceException();

@@ -10,6 +10,7 @@
 #include "file_time.h"
 #include "handle_table.h"
 #include "lookup.h"
+#include "threads/waitable.h"
 #include "write_faults.h"
 
 namespace {
@@ -130,7 +131,7 @@ HANDLE WINAPI CreateFileA(LPCSTR name, DWORD access, DWORD, LPSECURITY_ATTRIBUTE
 
 BOOL WINAPI CloseHandle(HANDLE object) {
     const auto file = Files().Remove(object);
-    if (!file) return Fail(ERROR_INVALID_HANDLE);
+    if (!file) return CloseWaitable(object) || Fail(ERROR_INVALID_HANDLE);
     if (!file->Close()) return FailWithErrno();
     return !CloseIsToFail() || Fail(ERROR_DISK_FULL);
 }

@@ -52,3 +52,4 @@ private:
 
 inline constexpr UINT_PTR kFirstFileHandle = 0x1000'0000;
 inline constexpr UINT_PTR kFirstSearchHandle = 0x2000'0000;
+inline constexpr UINT_PTR kFirstWaitableHandle = 0x3000'0000;

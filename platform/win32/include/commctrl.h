@@ -26,10 +26,6 @@
 #define TCN_SELCHANGING (TCN_FIRST - 2u)
 #define TCIF_TEXT 0x1u
 
-#define UDS_WRAP 0x1
-#define UDS_SETBUDDYINT 0x2
-#define UDS_ALIGNRIGHT 0x4
-#define UDS_AUTOBUDDY 0x10
 #define UDS_ARROWKEYS 0x20
 #define UDM_SETRANGE (WM_USER + 101u)
 #define UDM_GETRANGE (WM_USER + 102u)

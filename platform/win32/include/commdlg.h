@@ -12,8 +12,12 @@
 #define OFN_FILEMUSTEXIST 0x1000u
 #define OFN_EXPLORER 0x80000u
 
-// Its controls.
-#define edt1 0x0480
+#define CDERR_DIALOGFAILURE 0xFFFFu
+#define CDERR_STRUCTSIZE 0x1u
+#define CDERR_INITIALIZATION 0x2u
+#define FNERR_BUFFERTOOSMALL 0x3003u
+
+// Its controls: the list of folders and files, the types and the name.
 #define lst1 0x0460
 #define cmb1 0x0470
 #define cmb13 0x047C
@@ -46,6 +50,10 @@ typedef struct tagOFNA {
 typedef OPENFILENAMEA OPENFILENAME;
 
 extern "C" {
+
+// One file; the flags above. Differs: the list is a list box with folders in brackets, and the field for the
+// name an edit. Without a folder the dialog begins in the current one. Hooks, own templates and
+// the default extension are not looked at.
 WINUSERAPI BOOL WINAPI GetOpenFileNameA(LPOPENFILENAMEA dialog);
 WINUSERAPI DWORD WINAPI CommDlgExtendedError();
 }

@@ -6,5 +6,5 @@
 
 using MessageBoxAnswer = int (*)(HWND owner, LPCSTR text, LPCSTR caption, UINT type);
 
-// Called on the thread that shows the box; null goes back to refusing. For the whole process.
+// Called on the thread that shows the box; null lets it be a dialog again. For the whole process.
 WINBASEAPI void SetMessageBoxAnswer(MessageBoxAnswer answer);

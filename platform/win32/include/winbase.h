@@ -11,7 +11,7 @@
 
 extern "C" {
 
-// Null stands for the module that holds the main program.
+// Null stands for the main program. Differs: no module has a name.
 WINBASEAPI HMODULE WINAPI GetModuleHandleA(LPCSTR name);
 
 // Resources of a module; type and name are numbers made by MAKEINTRESOURCE.

@@ -42,8 +42,10 @@
 
 #define OBJ_PEN 1
 #define OBJ_BRUSH 2
+#define OBJ_DC 3
 #define OBJ_FONT 6
 #define OBJ_BITMAP 7
+#define OBJ_MEMDC 10
 
 #define NULLREGION 1
 #define SIMPLEREGION 2
@@ -138,23 +140,37 @@ typedef struct tagBITMAPINFO {
     RGBQUAD bmiColors[1];
 } BITMAPINFO, *LPBITMAPINFO;
 
+typedef struct tagDIBSECTION {
+    BITMAP dsBm;
+    BITMAPINFOHEADER dsBmih;
+    DWORD dsBitfields[3];
+    HANDLE dshSection;
+    DWORD dsOffset;
+} DIBSECTION;
+
 extern "C" {
 
-// A memory context; `like` is not looked at. It holds a 1 by 1 bitmap at first.
+// A memory context; `like` is null or open, and not looked at. It holds a 1 by 1 bitmap at first.
 WINGDIAPI HDC WINAPI CreateCompatibleDC(HDC like);
 WINGDIAPI BOOL WINAPI DeleteDC(HDC dc);
+// Differs: colours copied to or from a bitmap of one bit are black and white; the context's own do not count.
 WINGDIAPI HBITMAP WINAPI CreateCompatibleBitmap(HDC like, int width, int height);
 
 WINGDIAPI HGDIOBJ WINAPI SelectObject(HDC dc, HGDIOBJ object);
-// An object that is selected somewhere is not deleted. Stock objects stay.
+// An object that is selected somewhere is deleted as soon as it no longer is. Stock objects stay.
 WINGDIAPI BOOL WINAPI DeleteObject(HGDIOBJ object);
+// Differs: fonts and bitmaps only.
 WINGDIAPI int WINAPI GetObjectA(HANDLE object, int size, LPVOID record);
 WINGDIAPI DWORD WINAPI GetObjectType(HGDIOBJ object);
+// Differs: those that are named above; null for others.
 WINGDIAPI HGDIOBJ WINAPI GetStockObject(int index);
 WINGDIAPI HGDIOBJ WINAPI GetCurrentObject(HDC dc, UINT type);
 
+// Differs: solid pens and none; another style fails. A line wider than a pixel has square ends.
 WINGDIAPI HPEN WINAPI CreatePen(int style, int width, COLORREF color);
 WINGDIAPI HBRUSH WINAPI CreateSolidBrush(COLORREF color);
+// Differs: every font is one typeface, slightly narrowed. Of the record height and weight count; weights from
+// 600 on are bold.
 WINGDIAPI HFONT WINAPI CreateFontIndirectA(const LOGFONTA* font);
 
 WINGDIAPI int WINAPI SetBkMode(HDC dc, int mode);
@@ -168,6 +184,7 @@ WINGDIAPI BOOL WINAPI MoveToEx(HDC dc, int x, int y, LPPOINT former);
 WINGDIAPI BOOL WINAPI LineTo(HDC dc, int x, int y);
 WINGDIAPI COLORREF WINAPI SetPixel(HDC dc, int x, int y, COLORREF color);
 WINGDIAPI COLORREF WINAPI GetPixel(HDC dc, int x, int y);
+// Differs: the operations that are named above; others fail.
 WINGDIAPI BOOL WINAPI PatBlt(HDC dc, int x, int y, int width, int height, DWORD operation);
 WINGDIAPI BOOL WINAPI BitBlt(HDC to, int x, int y, int width, int height, HDC from, int fromX, int fromY,
                              DWORD operation);
@@ -184,10 +201,13 @@ WINGDIAPI int WINAPI SaveDC(HDC dc);
 WINGDIAPI BOOL WINAPI RestoreDC(HDC dc, int saved);
 WINGDIAPI BOOL WINAPI SetViewportOrgEx(HDC dc, int x, int y, LPPOINT former);
 WINGDIAPI BOOL WINAPI GetViewportOrgEx(HDC dc, LPPOINT origin);
+// Differs: LOGPIXELSX and LOGPIXELSY; 0 for others.
 WINGDIAPI int WINAPI GetDeviceCaps(HDC dc, int index);
 
+// Differs: uncompressed pixels of 8, 24 and 32 bits; `section` is null. Contexts have the default palette.
 WINGDIAPI HBITMAP WINAPI CreateDIBSection(HDC dc, const BITMAPINFO* info, UINT usage, LPVOID* bits,
                                           HANDLE section, DWORD offset);
+// Differs: uncompressed pixels of 8, 24 and 32 bits.
 WINGDIAPI int WINAPI SetDIBitsToDevice(HDC dc, int x, int y, DWORD width, DWORD height, int fromX, int fromY,
                                        UINT startScan, UINT scanLines, LPCVOID bits, const BITMAPINFO* info,
                                        UINT usage);

@@ -24,6 +24,11 @@
 #define MB_ICONQUESTION 0x20u
 #define MB_ICONEXCLAMATION 0x30u
 #define MB_ICONASTERISK 0x40u
+#define MB_ICONMASK 0xF0u
+#define MB_DEFBUTTON1 0x0u
+#define MB_DEFBUTTON2 0x100u
+#define MB_DEFBUTTON3 0x200u
+#define MB_DEFMASK 0xF00u
 
 #define IDOK 1
 #define IDCANCEL 2
@@ -35,8 +40,7 @@
 
 extern "C" {
 
-// The result is the id of the button. Differs: nothing is drawn and nobody is asked. What
-// message_box_answers.h was given answers, else the box is refused, by No, Abort or Cancel; OK where that is
-// the only button.
+// The result is the id of the button; IDCANCEL for a box that is closed, whatever its buttons are. Where
+// message_box_answers.h was given an answer, that is the result and there is no dialog.
 WINBASEAPI int WINAPI MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type);
 }

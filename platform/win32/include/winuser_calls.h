@@ -112,7 +112,9 @@ WINUSERAPI int WINAPI FillRect(HDC dc, const RECT* rect, HBRUSH brush);
 WINUSERAPI int WINAPI FrameRect(HDC dc, const RECT* rect, HBRUSH brush);
 WINUSERAPI BOOL WINAPI InvertRect(HDC dc, const RECT* rect);
 WINUSERAPI BOOL WINAPI DrawFocusRect(HDC dc, const RECT* rect);
+// Differs: the edges and sides of winuser_values.h.
 WINUSERAPI BOOL WINAPI DrawEdge(HDC dc, LPRECT rect, UINT edge, UINT flags);
+// Differs: the formats of winuser_values.h.
 WINUSERAPI int WINAPI DrawTextA(HDC dc, LPCSTR text, int length, LPRECT rect, UINT format);
 
 // Scroll bars of a window.

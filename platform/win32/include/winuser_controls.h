@@ -52,6 +52,7 @@
 #define EM_GETLINE 0x00C4u
 #define EM_LIMITTEXT 0x00C5u
 #define EM_SETLIMITTEXT EM_LIMITTEXT
+// Differs: the wish is kept and no soft line ends are put into the text; with ES_AUTOHSCROLL there are none.
 #define EM_FMTLINES 0x00C8u
 #define EM_LINEFROMCHAR 0x00C9u
 #define EM_SETTABSTOPS 0x00CBu
@@ -64,6 +65,8 @@
 #define EN_CHANGE 0x0300
 #define EN_UPDATE 0x0400
 #define EN_MAXTEXT 0x0501
+#define EN_HSCROLL 0x0601
+#define EN_VSCROLL 0x0602
 
 // List box.
 #define LBS_NOTIFY 0x1L

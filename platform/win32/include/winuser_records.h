@@ -66,6 +66,11 @@ typedef struct tagWINDOWPOS {
     UINT flags;
 } WINDOWPOS;
 
+typedef struct tagNCCALCSIZE_PARAMS {
+    RECT rgrc[3];
+    WINDOWPOS* lppos;
+} NCCALCSIZE_PARAMS;
+
 typedef struct tagSTYLESTRUCT {
     DWORD styleOld;
     DWORD styleNew;

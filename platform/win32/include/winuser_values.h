@@ -57,7 +57,7 @@
 #define DWLP_MSGRESULT 0
 #define DWLP_DLGPROC (DWLP_MSGRESULT + static_cast<int>(sizeof(LRESULT)))
 #define DWLP_USER (DWLP_DLGPROC + static_cast<int>(sizeof(LRESULT)))
-#define DLGWINDOWEXTRA 30
+#define DLGWINDOWEXTRA (3 * static_cast<int>(sizeof(LRESULT)) + 6)
 
 #define GW_HWNDFIRST 0u
 #define GW_HWNDLAST 1u

@@ -1,0 +1,8 @@
+// The reader of PCX pictures beside a plain one.
+
+#include "image_check.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    CheckReader(ReadPcx, DecodePlainPcx, data, size);
+    return 0;
+}

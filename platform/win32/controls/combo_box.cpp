@@ -1,0 +1,365 @@
+#include "combo_box.h"
+
+#include <algorithm>
+
+#include "list_box.h"
+
+namespace {
+
+constexpr int kEditId = 1001;
+constexpr int kListId = 1000;
+constexpr int kEdge = 2;
+
+// The messages that are the list's own, under another number.
+struct ListTwin {
+    UINT combo;
+    UINT list;
+};
+constexpr ListTwin kTwins[] = {{CB_ADDSTRING, LB_ADDSTRING},   {CB_INSERTSTRING, LB_INSERTSTRING},
+                               {CB_GETCOUNT, LB_GETCOUNT},     {CB_GETCURSEL, LB_GETCURSEL},
+                               {CB_GETLBTEXT, LB_GETTEXT},     {CB_GETLBTEXTLEN, LB_GETTEXTLEN},
+                               {CB_FINDSTRING, LB_FINDSTRING}, {CB_FINDSTRINGEXACT, LB_FINDSTRINGEXACT}};
+
+}  // namespace
+
+// The field, its inner edge and the frame of the window.
+int ComboBox::FieldHeight() const {
+    return LineHeight() + 4 + 2 * kEdge;
+}
+
+RECT ComboBox::ButtonRect() const {
+    const RECT client = ClientArea();
+    const LONG width = GetSystemMetrics(SM_CXVSCROLL);
+    return {client.right - kEdge - width, kEdge, client.right - kEdge, client.bottom - kEdge};
+}
+
+RECT ComboBox::ListPlace() const {
+    RECT rect = {};
+    GetWindowRect(Window(), &rect);
+    const LONG room = std::max<LONG>(open_height_ - (rect.bottom - rect.top), LineHeight() + 2);
+    const LONG count = std::max<LONG>(static_cast<LONG>(List(LB_GETCOUNT)), 1);
+    const LONG wanted = count * static_cast<LONG>(List(LB_GETITEMHEIGHT)) + 2;
+    return {rect.left, rect.bottom, rect.right, rect.bottom + std::min(room, wanted)};
+}
+
+void ComboBox::CreateParts() {
+    const DWORD style = Style();
+    DWORD list_style =
+        WS_POPUP | WS_BORDER | WS_CLIPSIBLINGS | LBS_COMBOBOX | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT;
+    if (style & CBS_SORT) list_style |= LBS_SORT;
+    if (style & WS_VSCROLL) list_style |= WS_VSCROLL;
+    // It lies beside all windows, not to be cut off by those around the combo box.
+    list_ = CreateWindowExA(WS_EX_TOOLWINDOW, "ComboLBox", nullptr, list_style, 0, 0, 10, 10, Window(),
+                            nullptr, nullptr, nullptr);
+    SetWindowLongPtrA(list_, GWLP_ID, kListId);
+    SetWindowLongPtrA(list_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(Window()));
+    if (HasEdit())
+        edit_ = CreateWindowExA(0, "Edit", nullptr, WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL, 0, 0, 10, 10,
+                                Window(), reinterpret_cast<HMENU>(static_cast<UINT_PTR>(kEditId)), nullptr,
+                                nullptr);
+}
+
+// The height that is asked for is that of the open list; the closed one has that of its field.
+LRESULT ComboBox::Resize(const WINDOWPOS& place) {
+    if (!(place.flags & SWP_NOSIZE) && !resizing_) open_height_ = place.cy;
+    return 0;
+}
+
+void ComboBox::Layout() {
+    RECT rect = {};
+    GetWindowRect(Window(), &rect);
+    const LONG height = FieldHeight();
+    if (rect.bottom - rect.top != height && !resizing_) {
+        resizing_ = true;
+        SetWindowPos(Window(), nullptr, 0, 0, rect.right - rect.left, height,
+                     SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+        resizing_ = false;
+    }
+    if (!edit_) return;
+    const RECT button = ButtonRect();
+    const RECT client = ClientArea();
+    MoveWindow(edit_, kEdge + 1, kEdge + 1, std::max<LONG>(button.left - kEdge - 1, 0),
+               std::max<LONG>(client.bottom - 2 * (kEdge + 1), 0), TRUE);
+}
+
+LRESULT ComboBox::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (list_) {
+        if (const auto result = ListMessage(message, wParam, lParam)) return *result;
+        if (const auto result = TextMessage(message, wParam, lParam)) return *result;
+        if (const auto result = InputMessage(message, wParam, lParam)) return *result;
+    }
+    switch (message) {
+        case WM_CREATE:
+            open_height_ = reinterpret_cast<const CREATESTRUCTA*>(lParam)->cy;
+            CreateParts();
+            // The bar is the list's.
+            SetWindowLongA(Window(), GWL_STYLE, GetWindowLongA(Window(), GWL_STYLE) & ~WS_VSCROLL);
+            Layout();
+            return 0;
+        case WM_NCCALCSIZE: return 0;  // it draws its edge itself
+        case WM_WINDOWPOSCHANGING: return list_ ? Resize(*reinterpret_cast<const WINDOWPOS*>(lParam)) : 0;
+        case WM_SIZE:
+            if (list_) Layout();
+            return 0;
+        case WM_SETFONT:
+            TextControl::Handle(message, wParam, lParam);
+            List(WM_SETFONT, wParam, lParam);
+            if (edit_) SendMessageA(edit_, WM_SETFONT, wParam, lParam);
+            Layout();
+            return 0;
+        case WM_ENABLE:
+            if (edit_) EnableWindow(edit_, wParam != 0);
+            return TextControl::Handle(message, wParam, lParam);
+        case WM_NCPAINT:
+        case WM_ERASEBKGND: return 1;
+        case WM_PAINT: {
+            PAINTSTRUCT paint = {};
+            Paint(BeginPaint(Window(), &paint));
+            EndPaint(Window(), &paint);
+            return 0;
+        }
+        case WM_GETDLGCODE: {
+            const auto* const key = reinterpret_cast<const MSG*>(lParam);
+            const bool leave = key && key->message == WM_KEYDOWN &&
+                               (key->wParam == VK_RETURN || key->wParam == VK_ESCAPE) && list_ && Dropped();
+            return DLGC_WANTARROWS | DLGC_WANTCHARS | (leave ? DLGC_WANTMESSAGE : 0);
+        }
+        case WM_DESTROY:
+            if (list_) DestroyWindow(list_);
+            list_ = nullptr;
+            return 0;
+        default: return TextControl::Handle(message, wParam, lParam);
+    }
+}
+
+// ---- Items and selection. ----
+
+std::string ComboBox::SelectedText() const {
+    const LRESULT index = List(LB_GETCURSEL);
+    const LRESULT length = index == LB_ERR ? 0 : List(LB_GETTEXTLEN, static_cast<WPARAM>(index));
+    std::string text(static_cast<size_t>(length) + 1, '\0');
+    if (index != LB_ERR) List(LB_GETTEXT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text.data()));
+    text.resize(static_cast<size_t>(length));
+    return text;
+}
+
+void ComboBox::ShowSelectedText() {
+    if (edit_) {
+        SetWindowTextA(edit_, SelectedText().c_str());
+        SendMessageA(edit_, EM_SETSEL, 0, -1);
+    }
+    Redraw();
+}
+
+LRESULT ComboBox::Select(int index) {
+    const LRESULT result = List(LB_SETCURSEL, static_cast<WPARAM>(index));
+    if (index == -1 || result != LB_ERR) ShowSelectedText();
+    return result;
+}
+
+std::optional<LRESULT> ComboBox::ListMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    for (const ListTwin& twin : kTwins)
+        if (twin.combo == message) return List(twin.list, wParam, lParam);
+    switch (message) {
+        case CB_SETCURSEL: return Select(static_cast<int>(wParam));
+        case CB_SELECTSTRING: {
+            const LRESULT found = List(LB_FINDSTRING, wParam, lParam);
+            return found == LB_ERR ? CB_ERR : Select(static_cast<int>(found));
+        }
+        case CB_DELETESTRING: {
+            const bool shown = List(LB_GETCURSEL) == static_cast<int>(wParam);
+            const LRESULT left = List(LB_DELETESTRING, wParam);
+            if (shown && left != LB_ERR && !edit_) Redraw();
+            return left;
+        }
+        case CB_RESETCONTENT:
+            List(LB_RESETCONTENT);
+            ShowSelectedText();
+            return CB_OKAY;
+        case CB_SHOWDROPDOWN: Drop(wParam != 0); return TRUE;
+        case CB_GETDROPPEDSTATE: return Dropped();
+        case CB_GETDROPPEDCONTROLRECT: {
+            RECT rect = {};
+            GetWindowRect(Window(), &rect);
+            rect.bottom = std::max(rect.bottom, rect.top + open_height_);
+            *reinterpret_cast<RECT*>(lParam) = rect;
+            return TRUE;
+        }
+        case CB_GETITEMHEIGHT:
+            return static_cast<int>(wParam) == -1 ? FieldHeight() - 2 * kEdge - 2 : List(LB_GETITEMHEIGHT);
+        case ListBox::kPicked: Pick(static_cast<int>(lParam)); return 0;
+        default: return std::nullopt;
+    }
+}
+
+// The window's text is that of the edit or of the selected item, which can't be set.
+std::optional<LRESULT> ComboBox::TextMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_SETTEXT: return edit_ ? SendMessageA(edit_, message, wParam, lParam) : CB_ERR;
+        case WM_GETTEXT: {
+            if (edit_) return SendMessageA(edit_, message, wParam, lParam);
+            if (wParam == 0 || !lParam) return 0;
+            const std::string text = SelectedText();
+            const size_t length = std::min<size_t>(text.size(), wParam - 1);
+            std::copy_n(text.data(), length, reinterpret_cast<char*>(lParam));
+            reinterpret_cast<char*>(lParam)[length] = 0;
+            return static_cast<LRESULT>(length);
+        }
+        case WM_GETTEXTLENGTH:
+            return edit_ ? SendMessageA(edit_, message, 0, 0) : static_cast<LRESULT>(SelectedText().size());
+        case CB_LIMITTEXT:
+            if (edit_) SendMessageA(edit_, EM_LIMITTEXT, wParam, 0);
+            return TRUE;
+        case CB_GETEDITSEL: return edit_ ? SendMessageA(edit_, EM_GETSEL, wParam, lParam) : CB_ERR;
+        case CB_SETEDITSEL:
+            return edit_ ? SendMessageA(edit_, EM_SETSEL, LOWORD(lParam), HIWORD(lParam)) : CB_ERR;
+        case WM_COMMAND:
+            if (reinterpret_cast<HWND>(lParam) == edit_ && edit_) EditNotification(HIWORD(wParam));
+            return 0;
+        default: return std::nullopt;
+    }
+}
+
+void ComboBox::EditNotification(int code) {
+    switch (code) {
+        case EN_CHANGE:
+            // Only what the user types is told.
+            if (GetFocus() == edit_) Notify(CBN_EDITCHANGE);
+            break;
+        case EN_UPDATE:
+            if (GetFocus() == edit_) Notify(CBN_EDITUPDATE);
+            break;
+        case EN_SETFOCUS: Notify(CBN_SETFOCUS); break;
+        case EN_KILLFOCUS:
+            if (Dropped()) Drop(false);
+            Notify(CBN_KILLFOCUS);
+            break;
+        default: break;
+    }
+}
+
+// ---- The open list. ----
+
+void ComboBox::Drop(bool open) {
+    if (open == Dropped()) return;
+    if (open) {
+        Notify(CBN_DROPDOWN);
+        const RECT place = ListPlace();
+        SetWindowPos(list_, HWND_TOPMOST, place.left, place.top, place.right - place.left,
+                     place.bottom - place.top, SWP_NOACTIVATE | SWP_SHOWWINDOW);
+    } else {
+        ShowWindow(list_, SW_HIDE);
+        Notify(CBN_CLOSEUP);
+    }
+    Redraw();
+}
+
+void ComboBox::Pick(int index) {
+    if (index != -1) Select(index);
+    Notify(index != -1 ? CBN_SELENDOK : CBN_SELENDCANCEL);
+    Drop(false);
+    if (index != -1) Notify(CBN_SELCHANGE);
+}
+
+void ComboBox::Move(WPARAM key) {
+    const int count = static_cast<int>(List(LB_GETCOUNT));
+    if (count == 0) return;
+    const int at = static_cast<int>(List(LB_GETCURSEL));
+    int to = at;
+    switch (key) {
+        case VK_UP:
+        case VK_LEFT: to = at - 1; break;
+        case VK_HOME: to = 0; break;
+        case VK_END: to = count - 1; break;
+        default: to = at + 1; break;
+    }
+    to = std::clamp(to, 0, count - 1);
+    if (to == at) return;
+    Select(to);
+    if (!Dropped()) Notify(CBN_SELENDOK);
+    Notify(CBN_SELCHANGE);
+}
+
+std::optional<LRESULT> ComboBox::InputMessage(UINT message, WPARAM wParam, LPARAM) {
+    switch (message) {
+        case WM_LBUTTONDOWN:
+        case WM_LBUTTONDBLCLK:
+            SetFocus(edit_ ? edit_ : Window());
+            Drop(!Dropped());
+            return 0;
+        case WM_KEYDOWN:
+            if (wParam == VK_F4) {
+                Drop(!Dropped());
+            } else if (Dropped() && (wParam == VK_RETURN || wParam == VK_ESCAPE)) {
+                Pick(wParam == VK_RETURN ? static_cast<int>(List(LB_GETCURSEL)) : -1);
+            } else if (wParam == VK_UP || wParam == VK_DOWN || wParam == VK_LEFT || wParam == VK_RIGHT ||
+                       wParam == VK_HOME || wParam == VK_END) {
+                Move(wParam);
+            } else {
+                return std::nullopt;
+            }
+            return 0;
+        case WM_CHAR: {
+            const char typed[] = {static_cast<char>(wParam), 0};
+            const LRESULT found =
+                List(LB_FINDSTRING, static_cast<WPARAM>(List(LB_GETCURSEL)), reinterpret_cast<LPARAM>(typed));
+            if (found == LB_ERR) return 0;
+            Select(static_cast<int>(found));
+            Notify(CBN_SELENDOK);
+            Notify(CBN_SELCHANGE);
+            return 0;
+        }
+        case WM_SETFOCUS:
+            if (edit_) {
+                SetFocus(edit_);
+                SendMessageA(edit_, EM_SETSEL, 0, -1);
+                return 0;
+            }
+            Redraw();
+            Notify(CBN_SETFOCUS);
+            return 0;
+        case WM_KILLFOCUS:
+            if (edit_) return 0;
+            if (Dropped()) Drop(false);
+            Redraw();
+            Notify(CBN_KILLFOCUS);
+            return 0;
+        default: return std::nullopt;
+    }
+}
+
+void ComboBox::Paint(HDC dc) {
+    const HGDIOBJ former = font_ ? SelectObject(dc, font_) : nullptr;
+    const HBRUSH background = BackgroundBrush(Enabled() ? WM_CTLCOLOREDIT : WM_CTLCOLORSTATIC, dc);
+    RECT client = ClientArea();
+    FillRect(dc, &client, background);
+    DrawEdge(dc, &client, EDGE_SUNKEN, BF_RECT);
+    RECT button = ButtonRect();
+    FillRect(dc, &button, GetSysColorBrush(COLOR_BTNFACE));
+    DrawEdge(dc, &button, Dropped() ? EDGE_SUNKEN : EDGE_RAISED, BF_RECT);
+    const LONG x = (button.left + button.right) / 2;
+    const LONG y = (button.top + button.bottom) / 2 + 2;
+    for (LONG i = 0; i < 4; ++i) {
+        MoveToEx(dc, x - i, y - i, nullptr);
+        LineTo(dc, x + i + 1, y - i);
+    }
+    if (!edit_) {
+        RECT field = {kEdge + 1, kEdge + 1, button.left - 1, client.bottom - kEdge - 1};
+        const bool marked = Focused() && !Dropped();
+        if (marked) FillRect(dc, &field, GetSysColorBrush(COLOR_HIGHLIGHT));
+        SetBkMode(dc, TRANSPARENT);
+        if (marked) SetTextColor(dc, GetSysColor(COLOR_HIGHLIGHTTEXT));
+        if (!Enabled()) SetTextColor(dc, GetSysColor(COLOR_GRAYTEXT));
+        const std::string text = SelectedText();
+        RECT inner = field;
+        inner.left += 2;
+        DrawTextA(dc, text.c_str(), static_cast<int>(text.size()), &inner,
+                  DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
+        if (marked) DrawFocusRect(dc, &field);
+    }
+    if (former) SelectObject(dc, former);
+}
+
+void RegisterComboBoxClass() {
+    RegisterControlClass("ComboBox", &ControlProcedure<ComboBox>, CS_DBLCLKS | CS_VREDRAW | CS_HREDRAW);
+}

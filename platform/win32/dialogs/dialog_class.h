@@ -1,0 +1,4 @@
+#pragma once
+
+// The class "#32770" of all dialogs.
+void RegisterDialogClass();

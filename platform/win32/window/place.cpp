@@ -1,0 +1,198 @@
+// Where windows are: size, place, order, visibility.
+
+#include <algorithm>
+
+#include "desktop.h"
+#include "queue.h"
+
+namespace {
+
+POINT ParentOrigin(const Window& window) {
+    return window.parent ? POINT{window.parent->client.left, window.parent->client.top} : POINT{0, 0};
+}
+
+bool SameSize(const RECT& a, const RECT& b) {
+    return a.right - a.left == b.right - b.left && a.bottom - a.top == b.bottom - b.top;
+}
+
+bool SameRect(const RECT& a, const RECT& b) {
+    return a.left == b.left && a.top == b.top && SameSize(a, b);
+}
+
+// Puts a window at its place among its siblings.
+void Reorder(Window& window, HWND after) {
+    std::vector<Window*>& siblings = SiblingsOf(window);
+    siblings.erase(std::remove(siblings.begin(), siblings.end(), &window), siblings.end());
+    auto at = siblings.begin();
+    if (after == HWND_BOTTOM) {
+        at = siblings.end();
+    } else if (after != HWND_TOP && after != HWND_TOPMOST && after != HWND_NOTOPMOST) {
+        const auto named = std::find_if(siblings.begin(), siblings.end(),
+                                        [after](const Window* sibling) { return sibling->handle == after; });
+        at = named == siblings.end() ? siblings.begin() : named + 1;
+    }
+    siblings.insert(at, &window);
+}
+
+struct Change {
+    RECT old_rect;
+    RECT old_client;
+    bool was_visible;
+};
+
+// Fills in what the flags leave as it is.
+void Complete(const Window& window, WINDOWPOS& place) {
+    const POINT origin = ParentOrigin(window);
+    if (place.flags & SWP_NOMOVE) {
+        place.x = window.rect.left - origin.x;
+        place.y = window.rect.top - origin.y;
+    }
+    if (place.flags & SWP_NOSIZE) {
+        place.cx = window.rect.right - window.rect.left;
+        place.cy = window.rect.bottom - window.rect.top;
+    }
+    if (place.flags & SWP_SHOWWINDOW && window.style & WS_VISIBLE) place.flags &= ~SWP_SHOWWINDOW;
+    if (place.flags & SWP_HIDEWINDOW && !(window.style & WS_VISIBLE)) place.flags &= ~SWP_HIDEWINDOW;
+    const RECT wanted = {place.x + origin.x, place.y + origin.y, place.x + origin.x + place.cx,
+                         place.y + origin.y + place.cy};
+    if (wanted.left == window.rect.left && wanted.top == window.rect.top) place.flags |= SWP_NOMOVE;
+    if (SameSize(wanted, window.rect)) place.flags |= SWP_NOSIZE;
+}
+
+RECT WantedRect(const Window& window, const WINDOWPOS& place) {
+    const POINT origin = ParentOrigin(window);
+    return {place.x + origin.x, place.y + origin.y, place.x + origin.x + place.cx,
+            place.y + origin.y + place.cy};
+}
+
+// Moves the window and what it holds, then gives it its size; asks for the client area where that may differ.
+void Move(const WindowRef& window, const WINDOWPOS& place) {
+    const RECT wanted = WantedRect(*window, place);
+    const bool resize = !(place.flags & SWP_NOSIZE) || place.flags & SWP_FRAMECHANGED;
+    {
+        const std::lock_guard lock(WindowMutex());
+        OffsetWindow(*window, wanted.left - window->rect.left, wanted.top - window->rect.top);
+    }
+    if (!resize) return;
+    const POINT origin = ParentOrigin(*window);
+    NCCALCSIZE_PARAMS sizes = {};
+    sizes.rgrc[0] = wanted;
+    sizes.rgrc[1] = window->rect;
+    sizes.rgrc[2] = window->client;
+    for (RECT& rect : sizes.rgrc)
+        OffsetRect(&rect, -origin.x, -origin.y);
+    CallProcedure(*window, WM_NCCALCSIZE, TRUE, reinterpret_cast<LPARAM>(&sizes));
+    const std::lock_guard lock(WindowMutex());
+    window->rect = wanted;
+    window->client = sizes.rgrc[0];
+    OffsetRect(&window->client, origin.x, origin.y);
+    FitSurface(*window);
+}
+
+// What has to be painted after a change.
+void Repaint(Window& window, const Change& change, const WINDOWPOS& place) {
+    const bool visible = (window.style & WS_VISIBLE) != 0;
+    const bool appeared = visible && !change.was_visible;
+    const bool vanished = !visible && change.was_visible;
+    const bool moved = !SameRect(window.rect, change.old_rect);
+    const bool resized =
+        !SameSize(window.rect, change.old_rect) || !SameSize(window.client, change.old_client);
+    if (vanished || (visible && moved)) InvalidateBehind(window, change.old_rect);
+    if (!visible || place.flags & SWP_NOREDRAW) return;
+    const bool redraw_all = appeared || (moved && window.parent) || resized;
+    if (redraw_all || place.flags & SWP_FRAMECHANGED)
+        Invalidate(window, Region(window.rect), RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+    else if (!(place.flags & SWP_NOZORDER) && window.parent)
+        Invalidate(window, Region(window.rect), RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+}
+
+constexpr UINT kNothingChanged = SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER;
+constexpr UINT kSomethingChanged = SWP_FRAMECHANGED | SWP_SHOWWINDOW | SWP_HIDEWINDOW;
+
+}  // namespace
+
+void OffsetWindow(Window& window, int dx, int dy) {
+    if (dx == 0 && dy == 0) return;
+    OffsetRect(&window.rect, dx, dy);
+    OffsetRect(&window.client, dx, dy);
+    window.update.Offset(dx, dy);
+    for (Window* const child : window.children)
+        OffsetWindow(*child, dx, dy);
+}
+
+BOOL WINAPI SetWindowPos(HWND handle, HWND after, int x, int y, int width, int height, UINT flags) {
+    const WindowRef window = FindWindowRef(handle);
+    if (!window) return FALSE;
+    WINDOWPOS place = {handle, after, x, y, std::max(width, 0), std::max(height, 0), flags};
+    // What needs no change of order keeps it: the window is there already.
+    if (!(place.flags & SWP_NOZORDER) && after == handle) place.flags |= SWP_NOZORDER;
+    if (!(place.flags & SWP_NOSENDCHANGING))
+        SendMessageA(handle, WM_WINDOWPOSCHANGING, 0, reinterpret_cast<LPARAM>(&place));
+    if (!IsWindow(handle)) return FALSE;
+    Complete(*window, place);
+    const Change change = {window->rect, window->client, (window->style & WS_VISIBLE) != 0};
+    Move(window, place);
+    {
+        const std::lock_guard lock(WindowMutex());
+        if (!(place.flags & SWP_NOZORDER)) Reorder(*window, place.hwndInsertAfter);
+        if (place.flags & SWP_SHOWWINDOW) window->style |= static_cast<DWORD>(WS_VISIBLE);
+        if (place.flags & SWP_HIDEWINDOW) window->style &= ~static_cast<DWORD>(WS_VISIBLE);
+        Repaint(*window, change, place);
+    }
+    if (place.flags & SWP_HIDEWINDOW) LoseFocus(handle);
+    if (!(place.flags & (SWP_NOACTIVATE | SWP_HIDEWINDOW)) && !window->parent) SetActiveWindow(handle);
+    const bool resized = !SameSize(window->client, change.old_client);
+    const bool moved =
+        window->client.left != change.old_client.left || window->client.top != change.old_client.top;
+    const bool tell = (place.flags & kNothingChanged) != kNothingChanged || place.flags & kSomethingChanged;
+    if (!tell || !IsWindow(handle)) return TRUE;
+    // For WM_SIZE and WM_MOVE, which the default makes of it.
+    if (!resized) place.flags |= kNoClientSize;
+    if (!moved) place.flags |= kNoClientMove;
+    SendMessageA(handle, WM_WINDOWPOSCHANGED, 0, reinterpret_cast<LPARAM>(&place));
+    return TRUE;
+}
+
+BOOL WINAPI MoveWindow(HWND window, int x, int y, int width, int height, BOOL repaint) {
+    return SetWindowPos(window, nullptr, x, y, width, height,
+                        SWP_NOZORDER | SWP_NOACTIVATE | (repaint ? 0 : SWP_NOREDRAW));
+}
+
+BOOL WINAPI ShowWindow(HWND handle, int how) {
+    const WindowRef window = FindWindowRef(handle);
+    if (!window) return FALSE;
+    const bool was_visible = (window->style & WS_VISIBLE) != 0;
+    const bool show = how != SW_HIDE;
+    if (show == was_visible && !(show && !window->parent && how != SW_SHOWNA && how != SW_SHOWNOACTIVATE))
+        return was_visible;
+    if (show != was_visible) {
+        SendMessageA(handle, WM_SHOWWINDOW, show, 0);
+        if (!IsWindow(handle)) return was_visible;
+    }
+    UINT flags = SWP_NOMOVE | SWP_NOSIZE | (show ? SWP_SHOWWINDOW : SWP_HIDEWINDOW);
+    const bool activate = show && !window->parent && how != SW_SHOWNA && how != SW_SHOWNOACTIVATE;
+    if (!activate) flags |= SWP_NOACTIVATE | SWP_NOZORDER;
+    SetWindowPos(handle, HWND_TOP, 0, 0, 0, 0, flags);
+    if (!show && !window->parent && GetActiveWindow() == handle) ActivateNext(handle);
+    return was_visible;
+}
+
+BOOL WINAPI GetWindowRect(HWND handle, LPRECT rect) {
+    if (!rect) return FALSE;
+    if (handle == kDesktopWindow) return SetRect(rect, 0, 0, kScreenWidth, kScreenHeight);
+    const WindowRef window = FindWindowRef(handle);
+    if (!window) return FALSE;
+    const std::lock_guard lock(WindowMutex());
+    *rect = window->rect;
+    return TRUE;
+}
+
+BOOL WINAPI GetClientRect(HWND handle, LPRECT rect) {
+    if (!rect) return FALSE;
+    if (handle == kDesktopWindow) return SetRect(rect, 0, 0, kScreenWidth, kScreenHeight);
+    const WindowRef window = FindWindowRef(handle);
+    if (!window) return FALSE;
+    const std::lock_guard lock(WindowMutex());
+    *rect = {0, 0, window->client.right - window->client.left, window->client.bottom - window->client.top};
+    return TRUE;
+}

@@ -1,0 +1,196 @@
+// Questions about the tree of windows.
+
+#include <algorithm>
+
+#include "ascii_case.h"
+#include "desktop.h"
+#include "window.h"
+
+namespace {
+
+HWND HandleOf(const Window* window) {
+    return window ? window->handle : nullptr;
+}
+
+HWND Neighbour(Window& window, UINT relation) {
+    const std::vector<Window*>& siblings = SiblingsOf(window);
+    const auto at = std::find(siblings.begin(), siblings.end(), &window);
+    switch (relation) {
+        case GW_HWNDFIRST: return HandleOf(siblings.front());
+        case GW_HWNDLAST: return HandleOf(siblings.back());
+        case GW_HWNDNEXT: return at + 1 == siblings.end() ? nullptr : HandleOf(*(at + 1));
+        default: return at == siblings.begin() ? nullptr : HandleOf(*(at - 1));
+    }
+}
+
+bool NamesMatch(const Window& window, LPCSTR className, LPCSTR text) {
+    if (className && !IS_INTRESOURCE(className) && CompareAsciiCaseless(window.cls->name, className) != 0)
+        return false;
+    return !text || CompareAsciiCaseless(window.text, text) == 0;
+}
+
+}  // namespace
+
+BOOL WINAPI IsWindow(HWND window) {
+    return window == kDesktopWindow || FindWindowRef(window) != nullptr;
+}
+
+HWND WINAPI GetDesktopWindow() {
+    return kDesktopWindow;
+}
+
+HWND WINAPI GetParent(HWND window) {
+    const WindowRef found = FindWindowRef(window);
+    if (!found) return nullptr;
+    const std::lock_guard lock(WindowMutex());
+    if (found->style & WS_CHILD) return found->parent ? found->parent->handle : kDesktopWindow;
+    return found->style & static_cast<DWORD>(WS_POPUP) ? found->owner : nullptr;
+}
+
+HWND WINAPI GetAncestor(HWND window, UINT which) {
+    const WindowRef found = FindWindowRef(window);
+    if (!found) return nullptr;
+    const std::lock_guard lock(WindowMutex());
+    if (which == GA_PARENT) return found->parent ? found->parent->handle : kDesktopWindow;
+    return RootOf(*found).handle;
+}
+
+HWND WINAPI GetWindow(HWND window, UINT relation) {
+    if (window == kDesktopWindow) return relation == GW_CHILD ? GetTopWindow(nullptr) : nullptr;
+    const WindowRef found = FindWindowRef(window);
+    if (!found) return nullptr;
+    const std::lock_guard lock(WindowMutex());
+    if (relation == GW_OWNER) return found->owner;
+    if (relation == GW_CHILD) return found->children.empty() ? nullptr : found->children.front()->handle;
+    return relation <= GW_HWNDPREV ? Neighbour(*found, relation) : nullptr;
+}
+
+HWND WINAPI GetTopWindow(HWND window) {
+    const std::vector<HWND> children = ChildrenOf(window == kDesktopWindow ? nullptr : window);
+    return children.empty() ? nullptr : children.front();
+}
+
+BOOL WINAPI IsChild(HWND parent, HWND window) {
+    const WindowRef above = FindWindowRef(parent);
+    const WindowRef below = FindWindowRef(window);
+    if (!above || !below) return FALSE;
+    const std::lock_guard lock(WindowMutex());
+    return IsAncestor(above.get(), below.get());
+}
+
+HWND WINAPI FindWindowA(LPCSTR className, LPCSTR text) {
+    return FindWindowExA(nullptr, nullptr, className, text);
+}
+
+HWND WINAPI FindWindowExA(HWND parent, HWND after, LPCSTR className, LPCSTR text) {
+    bool behind = after == nullptr;
+    for (HWND const handle : ChildrenOf(parent == kDesktopWindow ? nullptr : parent)) {
+        const WindowRef window = FindWindowRef(handle);
+        const std::lock_guard lock(WindowMutex());
+        if (behind && window && NamesMatch(*window, className, text)) return handle;
+        if (handle == after) behind = true;
+    }
+    return nullptr;
+}
+
+namespace {
+
+bool EnumBelow(HWND parent, WNDENUMPROC callback, LPARAM parameter) {
+    for (HWND const child : ChildrenOf(parent)) {
+        if (!IsWindow(child)) continue;
+        if (!callback(child, parameter) || !EnumBelow(child, callback, parameter)) return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+BOOL WINAPI EnumChildWindows(HWND parent, WNDENUMPROC callback, LPARAM parameter) {
+    return parent && EnumBelow(parent, callback, parameter);
+}
+
+BOOL WINAPI EnumThreadWindows(DWORD thread, WNDENUMPROC callback, LPARAM parameter) {
+    for (HWND const handle : ChildrenOf(nullptr)) {
+        const WindowRef window = FindWindowRef(handle);
+        if (window && window->thread == thread && !callback(handle, parameter)) return FALSE;
+    }
+    return TRUE;
+}
+
+DWORD WINAPI GetWindowThreadProcessId(HWND window, LPDWORD process) {
+    const WindowRef found = FindWindowRef(window);
+    if (!found) return 0;
+    if (process) *process = GetCurrentProcessId();
+    return found->thread;
+}
+
+// ---- Points. ----
+
+namespace {
+
+bool ClientOrigin(HWND handle, POINT& origin) {
+    origin = {};
+    if (!handle || handle == kDesktopWindow) return true;
+    const WindowRef window = FindWindowRef(handle);
+    if (!window) return false;
+    const std::lock_guard lock(WindowMutex());
+    origin = {window->client.left, window->client.top};
+    return true;
+}
+
+// The topmost visible window below `parent` (null: on the screen) at a place.
+Window* TopmostAt(const std::vector<Window*>& windows, POINT point) {
+    for (Window* const window : windows) {
+        if (!(window->style & WS_VISIBLE) || !PtInRect(&window->rect, point)) continue;
+        // A disabled child leaves the place to what lies below it.
+        if (window->style & WS_CHILD && window->style & WS_DISABLED) continue;
+        if (!PtInRect(&window->client, point)) return window;
+        Window* const inner = TopmostAt(window->children, point);
+        return inner ? inner : window;
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+BOOL WINAPI ClientToScreen(HWND window, LPPOINT point) {
+    POINT origin = {};
+    if (!window || !point || !ClientOrigin(window, origin)) return FALSE;
+    *point = {point->x + origin.x, point->y + origin.y};
+    return TRUE;
+}
+
+BOOL WINAPI ScreenToClient(HWND window, LPPOINT point) {
+    POINT origin = {};
+    if (!window || !point || !ClientOrigin(window, origin)) return FALSE;
+    *point = {point->x - origin.x, point->y - origin.y};
+    return TRUE;
+}
+
+int WINAPI MapWindowPoints(HWND from, HWND to, LPPOINT points, UINT count) {
+    POINT a = {};
+    POINT b = {};
+    if (!ClientOrigin(from, a) || !ClientOrigin(to, b)) return 0;
+    const LONG dx = a.x - b.x;
+    const LONG dy = a.y - b.y;
+    for (UINT i = 0; i < count; ++i)
+        points[i] = {points[i].x + dx, points[i].y + dy};
+    return MAKELONG(dx, dy);
+}
+
+HWND WINAPI WindowFromPoint(POINT point) {
+    const std::lock_guard lock(WindowMutex());
+    const Window* const found = TopmostAt(TopLevelWindows(), point);
+    return found ? found->handle : kDesktopWindow;
+}
+
+// Children that are hidden or disabled count as well.
+HWND WINAPI ChildWindowFromPoint(HWND parent, POINT point) {
+    const WindowRef window = FindWindowRef(parent);
+    if (!window || !ClientToScreen(parent, &point)) return nullptr;
+    const std::lock_guard lock(WindowMutex());
+    if (!PtInRect(&window->client, point)) return nullptr;
+    for (const Window* const child : window->children)
+        if (PtInRect(&child->rect, point)) return child->handle;
+    return parent;
+}

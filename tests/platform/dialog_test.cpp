@@ -102,8 +102,8 @@ TEST(Dialog, ChildPagesLieInTheirParent) {
     RECT corner = {110, 40, 190, 80};
     MapDialogRect(window, &corner);
     RECT rect = {};
-    GetWindowRect(page, &rect);
-    MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&rect), 2);
+    GetClientRect(page, &rect);
+    MapWindowPoints(page, window, reinterpret_cast<POINT*>(&rect), 2);
     EXPECT_EQ(rect.left, corner.left);
     EXPECT_EQ(rect.top, corner.top);
     EXPECT_EQ(rect.right - rect.left, corner.right - corner.left);
@@ -120,8 +120,9 @@ TEST(Dialog, LiesByItsOwnerOrInTheMiddle) {
     MapDialogRect(owner, &place);
     POINT corner = {place.left, place.top};
     ClientToScreen(owner, &corner);
+    // What lies there is its client area.
     RECT rect = {};
-    GetWindowRect(owned, &rect);
+    MapWindowPoints(owned, nullptr, reinterpret_cast<POINT*>(&rect), 1);
     EXPECT_EQ(rect.left, corner.x);
     EXPECT_EQ(rect.top, corner.y);
     const HWND middle = MakeDialog(centred, 104, owner);

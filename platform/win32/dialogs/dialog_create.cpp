@@ -71,7 +71,8 @@ RECT FramedRect(const DialogDescription& description, const SIZE& units, HWND ow
     if (head.style & WS_VSCROLL) size.right += GetSystemMetrics(SM_CXVSCROLL);
     const LONG width = size.right - size.left;
     const LONG height = size.bottom - size.top;
-    POINT corner = {client.left, client.top};
+    // The template's place is that of the client area.
+    POINT corner = {client.left + size.left, client.top + size.top};
     if (head.style & DS_CENTER)
         corner = {(GetSystemMetrics(SM_CXSCREEN) - width) / 2, (GetSystemMetrics(SM_CYSCREEN) - height) / 2};
     // Any other dialog lies relative to its owner's client area.

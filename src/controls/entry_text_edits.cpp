@@ -85,7 +85,7 @@ void CEntryTextEdit::SetSize(int columns, int rows) {
 
 void CEntryTextEdit::CreateParts() {
     const SIZE sample = MeasureText(kSampleWide, kSampleWideLength);
-    const LONG column = static_cast<LONG>(sample.cx * 0.125 + 0.5);
+    const LONG column = (sample.cx + 4) / 8;  // an eighth, rounded
     const LONG width = Pixels(columns_ < 1 ? kDefaultColumns : columns_, column);
     const LONG height = rows_ > 1 ? Pixels(rows_, sample.cy + 1) + kGap : sample.cy + kGap;
     PlaceEdit(rows_ > 1 ? kManyLines : kOneLine, sample.cy + 1, width, height);

@@ -50,7 +50,7 @@ void WS_NumEdit::MakeChildrenInClient() {
     if (created_) return;
     RECT client = {};
     GetClientRect(&client);
-    const LONG split = static_cast<LONG>(client.right * 0.75 + 0.5);
+    const LONG split = (3 * client.right + 2) / 4;  // three quarters, rounded
     MakeChildren({0, 0, split - 1, client.bottom}, {split, 0, client.right, client.bottom});
 }
 

@@ -261,19 +261,25 @@ void ComboBox::Pick(int index) {
     if (index != -1) Notify(CBN_SELCHANGE);
 }
 
-void ComboBox::Move(WPARAM key) {
-    const int count = static_cast<int>(List(LB_GETCOUNT));
-    if (count == 0) return;
-    const int at = static_cast<int>(List(LB_GETCURSEL));
-    int to = at;
+namespace {
+
+int MovedBy(WPARAM key, int at, int last) {
     switch (key) {
         case VK_UP:
-        case VK_LEFT: to = at - 1; break;
-        case VK_HOME: to = 0; break;
-        case VK_END: to = count - 1; break;
-        default: to = at + 1; break;
+        case VK_LEFT: return at - 1;
+        case VK_HOME: return 0;
+        case VK_END: return last;
+        default: return at + 1;
     }
-    to = std::clamp(to, 0, count - 1);
+}
+
+}  // namespace
+
+void ComboBox::Move(WPARAM key) {
+    const int last = static_cast<int>(List(LB_GETCOUNT)) - 1;
+    if (last < 0) return;
+    const int at = static_cast<int>(List(LB_GETCURSEL));
+    const int to = std::clamp(MovedBy(key, at, last), 0, last);
     if (to == at) return;
     Select(to);
     if (!Dropped()) Notify(CBN_SELENDOK);

@@ -176,7 +176,7 @@ void EditControl::ScrollLinesToCaret() {
     if (line < first_line_) {
         SetFirstLine(static_cast<long long>(line));
     } else if (line >= first_line_ + visible) {
-        SetFirstLine(static_cast<long long>(line - visible + 1));
+        SetFirstLine(static_cast<long long>(line) - VisibleLines() + 1);
     }
     if (!HasStyle(ES_AUTOHSCROLL)) return;
     const int width = format_.right - format_.left;

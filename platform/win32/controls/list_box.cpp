@@ -140,20 +140,21 @@ void ListBox::Choose(int index) {
 bool ListBox::KeyDown(WPARAM key) {
     const int last = items_.Count() - 1;
     const int at = std::max(selected_, 0);
-    int to = at;
+    const auto go = [this, last](int to) {
+        if (last >= 0) Choose(std::clamp(to, 0, last));
+        return true;
+    };
     switch (key) {
         case VK_UP:
-        case VK_LEFT: to = at - 1; break;
+        case VK_LEFT: return go(at - 1);
         case VK_DOWN:
-        case VK_RIGHT: to = selected_ == -1 ? 0 : at + 1; break;
-        case VK_HOME: to = 0; break;
-        case VK_END: to = last; break;
-        case VK_PRIOR: to = at - VisibleRows() + 1; break;
-        case VK_NEXT: to = at + VisibleRows() - 1; break;
+        case VK_RIGHT: return go(selected_ == -1 ? 0 : at + 1);
+        case VK_HOME: return go(0);
+        case VK_END: return go(last);
+        case VK_PRIOR: return go(at - VisibleRows() + 1);
+        case VK_NEXT: return go(at + VisibleRows() - 1);
         default: return false;
     }
-    if (last >= 0) Choose(std::clamp(to, 0, last));
-    return true;
 }
 
 void ListBox::Click(POINT point, bool twice) {

@@ -65,13 +65,13 @@ std::string CurrentFolder() {
 
 // The name that the record brings along wins over its folder, when it has one of its own.
 std::string FileDialog::FirstFolder() const {
-    const std::string current = CurrentFolder();
+    std::string current = CurrentFolder();
     if (std::strchr(record_.lpstrFile, '\\')) {
-        const std::string folder = FolderPart(ResolveName(current, record_.lpstrFile));
+        std::string folder = FolderPart(ResolveName(current, record_.lpstrFile));
         if (IsFolder(folder)) return folder;
     }
     if (record_.lpstrInitialDir && *record_.lpstrInitialDir) {
-        const std::string folder = ResolveName(current, record_.lpstrInitialDir);
+        std::string folder = ResolveName(current, record_.lpstrInitialDir);
         if (IsFolder(folder)) return folder;
     }
     return current;

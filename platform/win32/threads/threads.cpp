@@ -58,22 +58,21 @@ struct ThreadStart {
     DWORD id;
 };
 
-// The object of this thread, if it was begun here.
-thread_local std::shared_ptr<Waitable> own_object;
-
+// The object of this thread, if it was begun here. Being made first it goes last: whoever waits for the
+// thread goes on when its other thread-local objects are gone.
 struct EndOfThread {
     ~EndOfThread() {
-        if (!own_object) return;
-        // Whoever waits for the thread goes on when its other thread-local objects are gone as well.
-        Set(*own_object);
+        if (object) Set(*object);
     }
+
+    std::shared_ptr<Waitable> object;
 };
+
+thread_local EndOfThread own_end;
 
 void* Run(void* argument) {
     const std::unique_ptr<ThreadStart> start(static_cast<ThreadStart*>(argument));
-    static thread_local EndOfThread end;
-    static_cast<void>(&end);
-    own_object = start->object;
+    own_end.object = start->object;
     own_id = start->id;
     const unsigned code = start->start(start->argument);
     _endthreadex(code);
@@ -170,9 +169,9 @@ uintptr_t _beginthreadex(void* security, unsigned stackSize, _beginthreadex_proc
 }
 
 void _endthreadex(unsigned exitCode) {
-    if (own_object) {
-        const std::lock_guard lock(own_object->mutex);
-        own_object->exit_code = exitCode;
+    if (const auto& object = own_end.object) {
+        const std::lock_guard lock(object->mutex);
+        object->exit_code = exitCode;
     }
     pthread_exit(nullptr);
 }

@@ -71,7 +71,7 @@ void TellParent(const Window& window) {
 
 WindowRef NewWindow(const std::shared_ptr<WindowClass>& cls, const CREATESTRUCTA& create,
                     const WindowRef& parent) {
-    const WindowRef window = AddWindow();
+    WindowRef window = AddWindow();
     const std::lock_guard lock(WindowMutex());
     window->cls = cls;
     ++cls->windows;

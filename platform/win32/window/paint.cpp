@@ -94,8 +94,10 @@ void Invalidate(Window& window, const Region& part, UINT flags) {
     if (flags & RDW_FRAME) window.frame_dirty = true;
     if (!window.update.Empty() || window.frame_dirty) Enqueue(window);
     if (window.style & WS_CLIPCHILDREN && !(flags & RDW_ALLCHILDREN)) return;
+    const RECT bounds = inside.Bounds();
     for (Window* const child : window.children) {
-        if (!(child->style & WS_VISIBLE)) continue;
+        RECT common = {};
+        if (!(child->style & WS_VISIBLE) || !IntersectRect(&common, &bounds, &child->rect)) continue;
         Region covered = inside;
         covered.Intersect(child->rect);
         if (!covered.Empty()) Invalidate(*child, covered, flags | RDW_FRAME | RDW_ERASE);

@@ -97,8 +97,9 @@ void Repaint(Window& window, const Change& change, const WINDOWPOS& place) {
     const bool moved = !SameRect(window.rect, change.old_rect);
     const bool resized =
         !SameSize(window.rect, change.old_rect) || !SameSize(window.client, change.old_client);
+    if (place.flags & SWP_NOREDRAW) return;
     if (vanished || (visible && moved)) InvalidateBehind(window, change.old_rect);
-    if (!visible || place.flags & SWP_NOREDRAW) return;
+    if (!visible) return;
     const bool redraw_all = appeared || (moved && window.parent) || resized;
     if (redraw_all || place.flags & SWP_FRAMECHANGED)
         Invalidate(window, Region(window.rect), RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);

@@ -43,16 +43,15 @@ BarParts PartsOf(const RECT& bar, const ScrollState& state, bool vertical) {
     parts.down.*start = bar.*end - arrow;
     parts.shaft.*start = parts.up.*end;
     parts.shaft.*end = parts.down.*start;
-    const LONG room = parts.shaft.*end - parts.shaft.*start;
+    const int64_t room = parts.shaft.*end - parts.shaft.*start;
     const int64_t steps = static_cast<int64_t>(LastPosition(state)) - state.minimum;
     if (steps <= 0 || room < kLeastThumb) return parts;
     const int64_t span = static_cast<int64_t>(state.maximum) - state.minimum + 1;
-    const LONG thumb = state.page > 0
-                           ? std::max<LONG>(static_cast<LONG>(room * state.page / span), kLeastThumb)
-                           : std::min<LONG>(arrow, room);
+    const int64_t thumb = state.page > 0 ? std::max<int64_t>(room * state.page / span, kLeastThumb)
+                                         : std::min<int64_t>(arrow, room);
     parts.thumb = parts.shaft;
     parts.thumb.*start += static_cast<LONG>((room - thumb) * (state.position - state.minimum) / steps);
-    parts.thumb.*end = parts.thumb.*start + thumb;
+    parts.thumb.*end = parts.thumb.*start + static_cast<LONG>(thumb);
     return parts;
 }
 

@@ -240,9 +240,11 @@ TEST(EntryControls, FileFilterGoesByTheExtension) {
 
 TEST(EntryControls, NothingIsLeftBehind) {
     const DWORD windows = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
-    for (int round = 0; round < 20; ++round)
+    const DWORD objects = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+    for (int round = 0; round < 100; ++round)
         Panel panel(kEveryKind);
     EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS), windows);
+    EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), objects);
 }
 
 }  // namespace

@@ -105,7 +105,9 @@ TEST_F(MessageMap, ObjectsStandForTheirWindows) {
     EXPECT_EQ(CWnd::FromHandle(button.m_hWnd), &button);
     EXPECT_EQ(CWnd::FromHandlePermanent(button.m_hWnd), &button);
     EXPECT_EQ(button.GetParent(), &window_);
-    const HWND handle = button.Detach();
+    // Nobody's object stands in front of this one.
+    const HWND handle =
+        ::CreateWindowExA(0, "BUTTON", "c", WS_CHILD, 0, 0, 9, 9, window_.m_hWnd, nullptr, nullptr, nullptr);
     EXPECT_EQ(CWnd::FromHandlePermanent(handle), nullptr);
     CWnd* const temporary = CWnd::FromHandle(handle);
     EXPECT_EQ(temporary->m_hWnd, handle);

@@ -50,6 +50,8 @@ BOOL CStdioFile::Open(const char* name, UINT flags) {
 
 void CStdioFile::Close() {
     if (!stream_) return;
+    // A write that failed before was told then, and some runtimes tell it again here.
+    std::clearerr(stream_);
     const bool closed = std::fclose(stream_) == 0;
     stream_ = nullptr;
     next_ = end_ = 0;

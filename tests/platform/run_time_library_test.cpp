@@ -71,7 +71,7 @@ TEST(Directories, AreMadeAndEntered) {
         EXPECT_EQ(_mkdir(folder.Name(name).c_str()), -1) << name;
         EXPECT_EQ(errno, code) << name;
     }
-    const CurrentFolder current(folder.Name("one\\Two"));
+    const CurrentFolder current(folder.Name("One\\Two"));
     EXPECT_EQ(_chdir(".."), 0);
     for (const std::string& name : {std::string("nosuch"), folder.Name("file"), std::string()})
         EXPECT_EQ(_chdir(name.c_str()), -1) << name;

@@ -6,11 +6,6 @@
 #include "afx_thread_state.h"
 #include "afx_window.h"
 
-AfxThreadData& AfxThreadState() {
-    static thread_local AfxThreadData data;
-    return data;
-}
-
 CWnd* AfxTemporaryObjects::Window(HWND window) {
     std::unique_ptr<CWnd>& object = windows_[window];
     if (!object) object.reset(new CWnd(window));

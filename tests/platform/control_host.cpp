@@ -2,8 +2,32 @@
 
 namespace {
 
-const char* CommandName(int code, bool edit) {
-    if (!edit) return code == BN_CLICKED ? "clicked" : "";
+const char* ListName(int code) {
+    switch (code) {
+        case LBN_SELCHANGE: return "select";
+        case LBN_DBLCLK: return "double";
+        case LBN_SETFOCUS: return "focus";
+        case LBN_KILLFOCUS: return "blur";
+        default: return "";
+    }
+}
+
+const char* ComboName(int code) {
+    switch (code) {
+        case CBN_SELCHANGE: return "select";
+        case CBN_SETFOCUS: return "focus";
+        case CBN_KILLFOCUS: return "blur";
+        case CBN_EDITCHANGE: return "change";
+        case CBN_EDITUPDATE: return "update";
+        case CBN_DROPDOWN: return "open";
+        case CBN_CLOSEUP: return "close";
+        case CBN_SELENDOK: return "taken";
+        case CBN_SELENDCANCEL: return "given-up";
+        default: return "";
+    }
+}
+
+const char* EditName(int code) {
     switch (code) {
         case EN_SETFOCUS: return "focus";
         case EN_KILLFOCUS: return "blur";
@@ -14,10 +38,21 @@ const char* CommandName(int code, bool edit) {
     }
 }
 
-bool IsEdit(HWND window) {
+const char* CommandName(HWND sender, int code) {
     char name[16] = "";
-    GetClassNameA(window, name, sizeof name);
-    return std::strcmp(name, "Edit") == 0;
+    GetClassNameA(sender, name, sizeof name);
+    if (std::strcmp(name, "Edit") == 0) return EditName(code);
+    if (std::strcmp(name, "ListBox") == 0) return ListName(code);
+    if (std::strcmp(name, "ComboBox") == 0) return ComboName(code);
+    return code == BN_CLICKED ? "clicked" : "";
+}
+
+std::string NotificationName(const NMHDR& header) {
+    if (header.code == static_cast<UINT>(TCN_SELCHANGING)) return "changing";
+    if (header.code == static_cast<UINT>(TCN_SELCHANGE)) return "changed";
+    if (header.code != static_cast<UINT>(UDN_DELTAPOS)) return "";
+    const auto& step = reinterpret_cast<const NMUPDOWN&>(header);
+    return "delta " + std::to_string(step.iPos) + (step.iDelta < 0 ? "" : "+") + std::to_string(step.iDelta);
 }
 
 }  // namespace
@@ -58,12 +93,9 @@ std::string ControlHost::Told() {
 void ControlHost::Note(UINT message, WPARAM wParam, LPARAM lParam) {
     std::string word;
     if (message == WM_COMMAND) {
-        word = CommandName(HIWORD(wParam), IsEdit(reinterpret_cast<HWND>(lParam)));
+        word = CommandName(reinterpret_cast<HWND>(lParam), HIWORD(wParam));
     } else if (message == WM_NOTIFY) {
-        const auto& step = *reinterpret_cast<NMUPDOWN*>(lParam);
-        if (step.hdr.code != UDN_DELTAPOS) return;
-        word =
-            "delta " + std::to_string(step.iPos) + (step.iDelta < 0 ? "" : "+") + std::to_string(step.iDelta);
+        word = NotificationName(*reinterpret_cast<const NMHDR*>(lParam));
     } else if (message == WM_VSCROLL) {
         const bool end = LOWORD(wParam) == SB_ENDSCROLL;
         word = (end ? "end " : "scroll ") + std::to_string(static_cast<short>(HIWORD(wParam)));

@@ -15,10 +15,34 @@ struct ListTwin {
     UINT combo;
     UINT list;
 };
-constexpr ListTwin kTwins[] = {{CB_ADDSTRING, LB_ADDSTRING},   {CB_INSERTSTRING, LB_INSERTSTRING},
-                               {CB_GETCOUNT, LB_GETCOUNT},     {CB_GETCURSEL, LB_GETCURSEL},
-                               {CB_GETLBTEXT, LB_GETTEXT},     {CB_GETLBTEXTLEN, LB_GETTEXTLEN},
-                               {CB_FINDSTRING, LB_FINDSTRING}, {CB_FINDSTRINGEXACT, LB_FINDSTRINGEXACT}};
+constexpr ListTwin kTwins[] = {{CB_ADDSTRING, LB_ADDSTRING},     {CB_GETCOUNT, LB_GETCOUNT},
+                               {CB_GETCURSEL, LB_GETCURSEL},     {CB_GETLBTEXT, LB_GETTEXT},
+                               {CB_GETLBTEXTLEN, LB_GETTEXTLEN}, {CB_FINDSTRINGEXACT, LB_FINDSTRINGEXACT}};
+
+bool MovesSelection(WPARAM key) {
+    return key == VK_UP || key == VK_DOWN || key == VK_PRIOR || key == VK_NEXT;
+}
+
+bool ClosesList(WPARAM key) {
+    return key == VK_RETURN || key == VK_ESCAPE;
+}
+
+// The field leaves the keys of the list to the combo box.
+LRESULT CALLBACK FieldProcedure(HWND edit, UINT message, WPARAM wParam, LPARAM lParam) {
+    const HWND combo = GetParent(edit);
+    const bool dropped = SendMessageA(combo, CB_GETDROPPEDSTATE, 0, 0) != 0;
+    if (message == WM_KEYDOWN && (MovesSelection(wParam) || wParam == VK_F4))
+        return SendMessageA(combo, message, wParam, lParam);
+    if (message == WM_CHAR && dropped && ClosesList(wParam))
+        return SendMessageA(combo, WM_KEYDOWN, wParam, lParam);
+    WNDCLASSA edits = {};
+    GetClassInfoA(nullptr, "Edit", &edits);
+    const LRESULT answer = CallWindowProcA(edits.lpfnWndProc, edit, message, wParam, lParam);
+    const auto* const key = reinterpret_cast<const MSG*>(lParam);
+    if (message == WM_GETDLGCODE && dropped && key && key->message == WM_KEYDOWN && ClosesList(key->wParam))
+        return answer | DLGC_WANTMESSAGE;
+    return answer;
+}
 
 }  // namespace
 
@@ -57,6 +81,7 @@ void ComboBox::CreateParts() {
         edit_ = CreateWindowExA(0, "Edit", nullptr, WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL, 0, 0, 10, 10,
                                 Window(), reinterpret_cast<HMENU>(static_cast<UINT_PTR>(kEditId)), nullptr,
                                 nullptr);
+    if (edit_) SetWindowLongPtrA(edit_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&FieldProcedure));
 }
 
 // The height that is asked for is that of the open list; the closed one has that of its field.
@@ -120,8 +145,8 @@ LRESULT ComboBox::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         }
         case WM_GETDLGCODE: {
             const auto* const key = reinterpret_cast<const MSG*>(lParam);
-            const bool leave = key && key->message == WM_KEYDOWN &&
-                               (key->wParam == VK_RETURN || key->wParam == VK_ESCAPE) && list_ && Dropped();
+            const bool leave =
+                key && key->message == WM_KEYDOWN && ClosesList(key->wParam) && list_ && Dropped();
             return DLGC_WANTARROWS | DLGC_WANTCHARS | (leave ? DLGC_WANTMESSAGE : 0);
         }
         case WM_DESTROY:
@@ -145,10 +170,19 @@ std::string ComboBox::SelectedText() const {
 
 void ComboBox::ShowSelectedText() {
     if (edit_) {
-        SetWindowTextA(edit_, SelectedText().c_str());
+        const std::string text = SelectedText();
+        SetEditText(reinterpret_cast<LPARAM>(text.c_str()));
         SendMessageA(edit_, EM_SETSEL, 0, -1);
     }
     Redraw();
+}
+
+// A change by the program is not told.
+LRESULT ComboBox::SetEditText(LPARAM text) {
+    setting_text_ = true;
+    const LRESULT result = SendMessageA(edit_, WM_SETTEXT, 0, text);
+    setting_text_ = false;
+    return result;
 }
 
 LRESULT ComboBox::Select(int index) {
@@ -162,32 +196,24 @@ std::optional<LRESULT> ComboBox::ListMessage(UINT message, WPARAM wParam, LPARAM
         if (twin.combo == message) return List(twin.list, wParam, lParam);
     switch (message) {
         case CB_SETCURSEL: return Select(static_cast<int>(wParam));
-        case CB_SELECTSTRING: {
-            const LRESULT found = List(LB_FINDSTRING, wParam, lParam);
-            return found == LB_ERR ? CB_ERR : Select(static_cast<int>(found));
-        }
         case CB_DELETESTRING: {
             const bool shown = List(LB_GETCURSEL) == static_cast<int>(wParam);
             const LRESULT left = List(LB_DELETESTRING, wParam);
             if (shown && left != LB_ERR && !edit_) Redraw();
             return left;
         }
-        case CB_RESETCONTENT:
-            List(LB_RESETCONTENT);
-            ShowSelectedText();
-            return CB_OKAY;
-        case CB_SHOWDROPDOWN: Drop(wParam != 0); return TRUE;
-        case CB_GETDROPPEDSTATE: return Dropped();
-        case CB_GETDROPPEDCONTROLRECT: {
-            RECT rect = {};
-            GetWindowRect(Window(), &rect);
-            rect.bottom = std::max(rect.bottom, rect.top + open_height_);
-            *reinterpret_cast<RECT*>(lParam) = rect;
+        case CB_SHOWDROPDOWN:
+            if (wParam)
+                Open();
+            else
+                Close(false);
             return TRUE;
-        }
-        case CB_GETITEMHEIGHT:
-            return static_cast<int>(wParam) == -1 ? FieldHeight() - 2 * kEdge - 2 : List(LB_GETITEMHEIGHT);
-        case ListBox::kPicked: Pick(static_cast<int>(lParam)); return 0;
+        case CB_GETDROPPEDSTATE: return Dropped();
+        case ListBox::kPicked:
+            Select(static_cast<int>(List(LB_GETCURSEL)));
+            Close(true);
+            Notify(CBN_SELCHANGE);
+            return 0;
         default: return std::nullopt;
     }
 }
@@ -195,7 +221,7 @@ std::optional<LRESULT> ComboBox::ListMessage(UINT message, WPARAM wParam, LPARAM
 // The window's text is that of the edit or of the selected item, which can't be set.
 std::optional<LRESULT> ComboBox::TextMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-        case WM_SETTEXT: return edit_ ? SendMessageA(edit_, message, wParam, lParam) : CB_ERR;
+        case WM_SETTEXT: return edit_ ? SetEditText(lParam) : CB_ERR;
         case WM_GETTEXT: {
             if (edit_) return SendMessageA(edit_, message, wParam, lParam);
             if (wParam == 0 || !lParam) return 0;
@@ -207,12 +233,6 @@ std::optional<LRESULT> ComboBox::TextMessage(UINT message, WPARAM wParam, LPARAM
         }
         case WM_GETTEXTLENGTH:
             return edit_ ? SendMessageA(edit_, message, 0, 0) : static_cast<LRESULT>(SelectedText().size());
-        case CB_LIMITTEXT:
-            if (edit_) SendMessageA(edit_, EM_LIMITTEXT, wParam, 0);
-            return TRUE;
-        case CB_GETEDITSEL: return edit_ ? SendMessageA(edit_, EM_GETSEL, wParam, lParam) : CB_ERR;
-        case CB_SETEDITSEL:
-            return edit_ ? SendMessageA(edit_, EM_SETSEL, LOWORD(lParam), HIWORD(lParam)) : CB_ERR;
         case WM_COMMAND:
             if (reinterpret_cast<HWND>(lParam) == edit_ && edit_) EditNotification(HIWORD(wParam));
             return 0;
@@ -223,67 +243,101 @@ std::optional<LRESULT> ComboBox::TextMessage(UINT message, WPARAM wParam, LPARAM
 void ComboBox::EditNotification(int code) {
     switch (code) {
         case EN_CHANGE:
-            // Only what the user types is told.
-            if (GetFocus() == edit_) Notify(CBN_EDITCHANGE);
+            if (setting_text_) break;
+            // A typed text is no selected item any more; an open list shows what it may become.
+            List(LB_SETCURSEL, static_cast<WPARAM>(Dropped() ? FindTyped() : -1));
+            Notify(CBN_EDITCHANGE);
             break;
         case EN_UPDATE:
-            if (GetFocus() == edit_) Notify(CBN_EDITUPDATE);
+            if (!setting_text_) Notify(CBN_EDITUPDATE);
             break;
         case EN_SETFOCUS: Notify(CBN_SETFOCUS); break;
         case EN_KILLFOCUS:
-            if (Dropped()) Drop(false);
+            Close(false);
             Notify(CBN_KILLFOCUS);
             break;
         default: break;
     }
 }
 
+// The item that begins with the text of the edit.
+int ComboBox::FindTyped() const {
+    const std::string text = TextOfEdit();
+    return static_cast<int>(
+        List(LB_FINDSTRING, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(text.c_str())));
+}
+
+std::string ComboBox::TextOfEdit() const {
+    std::string text(static_cast<size_t>(GetWindowTextLengthA(edit_)) + 1, '\0');
+    text.resize(static_cast<size_t>(GetWindowTextA(edit_, text.data(), static_cast<int>(text.size()))));
+    return text;
+}
+
 // ---- The open list. ----
 
-void ComboBox::Drop(bool open) {
-    if (open == Dropped()) return;
-    if (open) {
-        Notify(CBN_DROPDOWN);
-        const RECT place = ListPlace();
-        SetWindowPos(list_, HWND_TOPMOST, place.left, place.top, place.right - place.left,
-                     place.bottom - place.top, SWP_NOACTIVATE | SWP_SHOWWINDOW);
-    } else {
-        ShowWindow(list_, SW_HIDE);
-        Notify(CBN_CLOSEUP);
-    }
+// The text becomes that of the item that it begins, if there is one.
+void ComboBox::SelectFound() {
+    const int found = FindTyped();
+    List(LB_SETCURSEL, static_cast<WPARAM>(found));
+    if (found != -1) ShowSelectedText();
+}
+
+void ComboBox::Open() {
+    if (Dropped()) return;
+    Notify(CBN_DROPDOWN);
+    if (edit_) SelectFound();
+    const RECT place = ListPlace();
+    SetWindowPos(list_, HWND_TOPMOST, place.left, place.top, place.right - place.left,
+                 place.bottom - place.top, SWP_NOACTIVATE | SWP_SHOWWINDOW);
     Redraw();
 }
 
-void ComboBox::Pick(int index) {
-    if (index != -1) Select(index);
-    Notify(index != -1 ? CBN_SELENDOK : CBN_SELENDCANCEL);
-    Drop(false);
-    if (index != -1) Notify(CBN_SELCHANGE);
+void ComboBox::Close(bool taken) {
+    if (!Dropped()) return;
+    Notify(taken ? CBN_SELENDOK : CBN_SELENDCANCEL);
+    ShowWindow(list_, SW_HIDE);
+    Notify(CBN_CLOSEUP);
+    Redraw();
 }
 
-namespace {
-
-int MovedBy(WPARAM key, int at, int last) {
+int ComboBox::MovedBy(WPARAM key, int at, int last) const {
+    const RECT place = ListPlace();
+    const int rows = static_cast<int>((place.bottom - place.top - 2) / List(LB_GETITEMHEIGHT));
     switch (key) {
         case VK_UP:
         case VK_LEFT: return at - 1;
+        case VK_PRIOR: return at - rows + 1;
+        case VK_NEXT: return at + rows - 1;
         case VK_HOME: return 0;
         case VK_END: return last;
         default: return at + 1;
     }
 }
 
-}  // namespace
-
 void ComboBox::Move(WPARAM key) {
     const int last = static_cast<int>(List(LB_GETCOUNT)) - 1;
     if (last < 0) return;
     const int at = static_cast<int>(List(LB_GETCURSEL));
     const int to = std::clamp(MovedBy(key, at, last), 0, last);
-    if (to == at) return;
     Select(to);
     if (!Dropped()) Notify(CBN_SELENDOK);
     Notify(CBN_SELCHANGE);
+}
+
+bool ComboBox::KeyDown(WPARAM key) {
+    if (key == VK_F4) {
+        if (Dropped())
+            Close(false);
+        else
+            Open();
+    } else if (Dropped() && ClosesList(key)) {
+        Close(key == VK_RETURN);
+    } else if (MovesSelection(key) || key == VK_LEFT || key == VK_RIGHT || key == VK_HOME || key == VK_END) {
+        Move(key);
+    } else {
+        return false;
+    }
+    return true;
 }
 
 std::optional<LRESULT> ComboBox::InputMessage(UINT message, WPARAM wParam, LPARAM) {
@@ -291,19 +345,13 @@ std::optional<LRESULT> ComboBox::InputMessage(UINT message, WPARAM wParam, LPARA
         case WM_LBUTTONDOWN:
         case WM_LBUTTONDBLCLK:
             SetFocus(edit_ ? edit_ : Window());
-            Drop(!Dropped());
+            if (Dropped())
+                Close(true);
+            else
+                Open();
             return 0;
         case WM_KEYDOWN:
-            if (wParam == VK_F4) {
-                Drop(!Dropped());
-            } else if (Dropped() && (wParam == VK_RETURN || wParam == VK_ESCAPE)) {
-                Pick(wParam == VK_RETURN ? static_cast<int>(List(LB_GETCURSEL)) : -1);
-            } else if (wParam == VK_UP || wParam == VK_DOWN || wParam == VK_LEFT || wParam == VK_RIGHT ||
-                       wParam == VK_HOME || wParam == VK_END) {
-                Move(wParam);
-            } else {
-                return std::nullopt;
-            }
+            if (!KeyDown(wParam)) return std::nullopt;
             return 0;
         case WM_CHAR: {
             const char typed[] = {static_cast<char>(wParam), 0};
@@ -326,7 +374,7 @@ std::optional<LRESULT> ComboBox::InputMessage(UINT message, WPARAM wParam, LPARA
             return 0;
         case WM_KILLFOCUS:
             if (edit_) return 0;
-            if (Dropped()) Drop(false);
+            Close(false);
             Redraw();
             Notify(CBN_KILLFOCUS);
             return 0;

@@ -31,10 +31,15 @@ private:
     }
     LRESULT Select(int index);
     void ShowSelectedText();
-    void Drop(bool open);
-    // A choice by the user closes the list.
-    void Pick(int index);
+    LRESULT SetEditText(LPARAM text);
+    int FindTyped() const;
+    void SelectFound();
+    std::string TextOfEdit() const;
+    void Open();
+    void Close(bool taken);
+    int MovedBy(WPARAM key, int at, int last) const;
     void Move(WPARAM key);
+    bool KeyDown(WPARAM key);
     void EditNotification(int code);
     std::string SelectedText() const;
     void Paint(HDC dc);
@@ -43,6 +48,7 @@ private:
     HWND edit_ = nullptr;
     int open_height_ = 0;  // of field and open list
     bool resizing_ = false;
+    bool setting_text_ = false;
 };
 
 void RegisterComboBoxClass();

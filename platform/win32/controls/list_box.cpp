@@ -58,12 +58,9 @@ std::optional<LRESULT> ListBox::ItemMessage(UINT message, WPARAM wParam, LPARAM 
     const int index = static_cast<int>(wParam);
     const auto* const text = reinterpret_cast<LPCSTR>(lParam);
     switch (message) {
-        case LB_ADDSTRING:
-        case LB_INSERTSTRING: {
-            const bool placed = message == LB_INSERTSTRING;
-            if (!text || (placed && index != -1 && index != items_.Count() && !items_.Has(index)))
-                return LB_ERR;
-            const int at = placed ? items_.Insert(index, text) : items_.Add(text);
+        case LB_ADDSTRING: {
+            if (!text) return LB_ERR;
+            const int at = items_.Add(text);
             if (selected_ >= at) ++selected_;
             FitScrollBar();
             Redraw();
@@ -101,7 +98,7 @@ LRESULT ListBox::ItemRect(int index, RECT& rect) const {
     const RECT client = ClientArea();
     const LONG top = (index - top_) * row_height_;
     rect = {client.left, top, client.right, top + row_height_};
-    return 1;
+    return rect.bottom > 0 && rect.top < client.bottom;
 }
 
 std::optional<LRESULT> ListBox::SelectionMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -109,15 +106,6 @@ std::optional<LRESULT> ListBox::SelectionMessage(UINT message, WPARAM wParam, LP
     switch (message) {
         case LB_SETCURSEL: return Select(index);
         case LB_GETCURSEL: return selected_;
-        case LB_SELECTSTRING: {
-            const int found = lParam ? items_.Find(index, reinterpret_cast<LPCSTR>(lParam), false) : -1;
-            return found == -1 ? LB_ERR : Select(found);
-        }
-        case LB_GETTOPINDEX: return top_;
-        case LB_SETTOPINDEX:
-            if (!items_.Has(index)) return LB_ERR;
-            ScrollTo(index);
-            return LB_OKAY;
         case LB_GETITEMHEIGHT: return row_height_;
         case LB_GETITEMRECT: return lParam ? ItemRect(index, *reinterpret_cast<RECT*>(lParam)) : LB_ERR;
         default: return std::nullopt;
@@ -127,8 +115,7 @@ std::optional<LRESULT> ListBox::SelectionMessage(UINT message, WPARAM wParam, LP
 // ---- Keyboard and mouse. ----
 
 void ListBox::Tell(int code) {
-    if (InCombo() || !(Style() & LBS_NOTIFY)) return;
-    Notify(code);
+    if (!InCombo() && Style() & LBS_NOTIFY) Notify(code);
 }
 
 void ListBox::Choose(int index) {
@@ -157,25 +144,42 @@ bool ListBox::KeyDown(WPARAM key) {
     }
 }
 
-void ListBox::Click(POINT point, bool twice) {
+void ListBox::Press(POINT point) {
+    if (!InCombo()) SetFocus(Window());
     const int row = RowAt(point);
-    if (InCombo()) {
-        SendMessageA(reinterpret_cast<HWND>(GetWindowLongPtrA(Window(), GWLP_USERDATA)), kPicked, 0, row);
-        return;
+    if (row == -1) return;
+    SetCapture(Window());
+    Select(row);
+}
+
+// With the button down the selection stays in the list; that of an open list needs no button.
+void ListBox::Follow(POINT point) {
+    const bool pressed = GetCapture() == Window();
+    if (!pressed && !InCombo()) return;
+    const RECT client = ClientArea();
+    if (pressed) {
+        point.x = std::clamp(point.x, client.left, client.right - 1);
+        point.y = std::clamp(point.y, client.top, client.bottom - 1);
     }
-    SetFocus(Window());
-    if (!twice) {
-        if (row != -1) Choose(row);
-        return;
-    }
+    const int row = RowAt(point);
     if (row != -1) Select(row);
-    Tell(LBN_DBLCLK);
+}
+
+void ListBox::Release() {
+    if (GetCapture() != Window()) return;
+    ReleaseCapture();
+    if (InCombo())
+        SendMessageA(reinterpret_cast<HWND>(GetWindowLongPtrA(Window(), GWLP_USERDATA)), kPicked, 0, 0);
+    else if (items_.Count() > 0)
+        Tell(LBN_SELCHANGE);
 }
 
 std::optional<LRESULT> ListBox::InputMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-        case WM_LBUTTONDOWN:
-        case WM_LBUTTONDBLCLK: Click(PointOf(lParam), message == WM_LBUTTONDBLCLK); return 0;
+        case WM_LBUTTONDOWN: Press(PointOf(lParam)); return 0;
+        case WM_MOUSEMOVE: Follow(PointOf(lParam)); return 0;
+        case WM_LBUTTONUP: Release(); return 0;
+        case WM_LBUTTONDBLCLK: Tell(LBN_DBLCLK); return 0;
         case WM_KEYDOWN:
             if (!KeyDown(wParam)) return std::nullopt;
             return 0;
@@ -188,7 +192,8 @@ std::optional<LRESULT> ListBox::InputMessage(UINT message, WPARAM wParam, LPARAM
         case WM_SETFOCUS:
         case WM_KILLFOCUS:
             Redraw();
-            Tell(message == WM_SETFOCUS ? LBN_SETFOCUS : LBN_KILLFOCUS);
+            // Told without LBS_NOTIFY, too.
+            if (!InCombo()) Notify(message == WM_SETFOCUS ? LBN_SETFOCUS : LBN_KILLFOCUS);
             return 0;
         default: return std::nullopt;
     }

@@ -9,7 +9,7 @@
 // tells the combo box of clicks by the messages below, instead of its parent by WM_COMMAND.
 class ListBox : public TextControl {
 public:
-    // lParam is the index of the item that was clicked, or the mouse is over.
+    // The selected item was clicked.
     static constexpr UINT kPicked = WM_USER + 0x40;
 
     explicit ListBox(HWND window) : TextControl(window) {}
@@ -27,7 +27,9 @@ private:
     LRESULT Select(int index);
     LRESULT ItemRect(int index, RECT& rect) const;
     bool KeyDown(WPARAM key);
-    void Click(POINT point, bool twice);
+    void Press(POINT point);
+    void Follow(POINT point);
+    void Release();
     // A choice by the user.
     void Choose(int index);
     void Tell(int code);

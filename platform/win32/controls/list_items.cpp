@@ -5,16 +5,15 @@
 #include "ascii_case.h"
 
 int ListItems::Add(std::string_view text) {
-    if (!sorted_) return Insert(-1, text);
-    const auto at = std::upper_bound(
+    if (!sorted_) {
+        items_.emplace_back(text);
+        return Count() - 1;
+    }
+    const auto at = std::lower_bound(
         items_.begin(), items_.end(), text,
         [](std::string_view a, std::string_view b) { return CompareAsciiCaseless(a, b) < 0; });
-    return Insert(static_cast<int>(at - items_.begin()), text);
-}
-
-int ListItems::Insert(int index, std::string_view text) {
-    const int place = index == -1 ? Count() : index;
-    items_.insert(items_.begin() + place, std::string(text));
+    const auto place = static_cast<int>(at - items_.begin());
+    items_.insert(at, std::string(text));
     return place;
 }
 
@@ -23,6 +22,7 @@ void ListItems::Remove(int index) {
 }
 
 int ListItems::Find(int start, std::string_view text, bool whole) const {
+    if (text.empty() && !whole) return -1;
     const int first = Has(start) ? start + 1 : 0;
     for (int step = 0; step < Count(); ++step) {
         const int index = (first + step) % Count();

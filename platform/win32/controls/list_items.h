@@ -13,15 +13,13 @@ public:
     bool Has(int index) const { return index >= 0 && index < Count(); }
     const std::string& Text(int index) const { return items_[static_cast<size_t>(index)]; }
 
-    // At its place in a sorted list, else at the end. Gives the place.
+    // At its place in a sorted list, before its equals, else at the end. Gives the place.
     int Add(std::string_view text);
-    // -1 stands for the end. The order of a sorted list is not kept.
-    int Insert(int index, std::string_view text);
     void Remove(int index);
     void Clear() { items_.clear(); }
 
     // The first item behind `start`, round the end, that begins with the text or is it, in any case; -1
-    // without one.
+    // without one. Nothing begins with an empty text.
     int Find(int start, std::string_view text, bool whole) const;
 
 private:

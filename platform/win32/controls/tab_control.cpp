@@ -11,12 +11,8 @@
 namespace {
 
 constexpr int kTabMargin = 6;
+constexpr int kLeastTabWidth = 54;
 constexpr int kStripEdge = 2;
-
-struct Tab {
-    std::string text;
-    LPARAM param = 0;
-};
 
 class TabControl : public TextControl {
 public:
@@ -27,29 +23,27 @@ public:
 private:
     int Count() const { return static_cast<int>(tabs_.size()); }
     bool Has(int index) const { return index >= 0 && index < Count(); }
-    int StripHeight() const { return LineHeight() + 8; }
+    int StripHeight() const { return LineHeight() + 7; }
 
     LRESULT Insert(int index, const TCITEMA& item);
     LRESULT Get(int index, TCITEMA& item) const;
     LRESULT SelectByProgram(int index);
     void SelectByUser(int index);
+    void Press(int index);
     LRESULT Tell(UINT code);
+    int TabWidth(const std::string& text) const;
     RECT TabRect(int index) const;
     int TabAt(POINT point) const;
-    LRESULT Adjust(bool larger, RECT& rect) const;
     bool KeyDown(WPARAM key);
     void Paint(HDC dc);
 
-    std::vector<Tab> tabs_;
+    std::vector<std::string> tabs_;
     int selected_ = -1;
 };
 
 LRESULT TabControl::Insert(int index, const TCITEMA& item) {
     const int at = std::clamp(index, 0, Count());
-    Tab tab;
-    if (item.mask & TCIF_TEXT && item.pszText) tab.text = item.pszText;
-    tab.param = item.lParam;
-    tabs_.insert(tabs_.begin() + at, std::move(tab));
+    tabs_.insert(tabs_.begin() + at, item.mask & TCIF_TEXT && item.pszText ? item.pszText : "");
     // The first tab is in front at once.
     if (selected_ == -1)
         selected_ = 0;
@@ -61,11 +55,10 @@ LRESULT TabControl::Insert(int index, const TCITEMA& item) {
 
 LRESULT TabControl::Get(int index, TCITEMA& item) const {
     if (!Has(index)) return FALSE;
-    const Tab& tab = tabs_[static_cast<size_t>(index)];
-    item.lParam = tab.param;
+    const std::string& text = tabs_[static_cast<size_t>(index)];
     if (item.mask & TCIF_TEXT && item.pszText && item.cchTextMax > 0) {
-        const size_t length = std::min(tab.text.size(), static_cast<size_t>(item.cchTextMax) - 1);
-        std::copy_n(tab.text.data(), length, item.pszText);
+        const size_t length = std::min(text.size(), static_cast<size_t>(item.cchTextMax) - 1);
+        std::copy_n(text.data(), length, item.pszText);
         item.pszText[length] = 0;
     }
     return TRUE;
@@ -88,18 +81,26 @@ void TabControl::SelectByUser(int index) {
     Tell(TCN_SELCHANGE);
 }
 
+void TabControl::Press(int index) {
+    if (index == -1) return;
+    SetFocus(Window());
+    SelectByUser(index);
+}
+
 LRESULT TabControl::Tell(UINT code) {
     NMHDR header = {Window(), static_cast<UINT_PTR>(GetDlgCtrlID(Window())), code};
     return SendMessageA(Parent(), WM_NOTIFY, header.idFrom, reinterpret_cast<LPARAM>(&header));
 }
 
+int TabControl::TabWidth(const std::string& text) const {
+    return std::max(Width(text.c_str(), text.size()) + 2 * kTabMargin, kLeastTabWidth);
+}
+
 RECT TabControl::TabRect(int index) const {
     LONG left = kStripEdge;
-    for (int i = 0; i < index; ++i)
-        left += Width(tabs_[static_cast<size_t>(i)].text.c_str(), tabs_[static_cast<size_t>(i)].text.size()) +
-                2 * kTabMargin;
-    const std::string& text = tabs_[static_cast<size_t>(index)].text;
-    return {left, kStripEdge, left + Width(text.c_str(), text.size()) + 2 * kTabMargin, StripHeight()};
+    for (int before = 0; before < index; ++before)
+        left += TabWidth(tabs_[static_cast<size_t>(before)]);
+    return {left, kStripEdge, left + TabWidth(tabs_[static_cast<size_t>(index)]), StripHeight()};
 }
 
 int TabControl::TabAt(POINT point) const {
@@ -110,22 +111,10 @@ int TabControl::TabAt(POINT point) const {
     return -1;
 }
 
-// Between the whole control and the area below its tabs.
-LRESULT TabControl::Adjust(bool larger, RECT& rect) const {
-    const int sign = larger ? -1 : 1;
-    rect.left += sign * 2 * kStripEdge;
-    rect.top += sign * (StripHeight() + kStripEdge);
-    rect.right -= sign * 2 * kStripEdge;
-    rect.bottom -= sign * 2 * kStripEdge;
-    return 0;
-}
-
 bool TabControl::KeyDown(WPARAM key) {
     switch (key) {
         case VK_LEFT: SelectByUser(selected_ - 1); return true;
         case VK_RIGHT: SelectByUser(selected_ + 1); return true;
-        case VK_HOME: SelectByUser(0); return true;
-        case VK_END: SelectByUser(Count() - 1); return true;
         default: return false;
     }
 }
@@ -136,19 +125,13 @@ LRESULT TabControl::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case TCM_INSERTITEMA: return lParam ? Insert(index, *reinterpret_cast<const TCITEMA*>(lParam)) : -1;
         case TCM_GETITEMA: return lParam ? Get(index, *reinterpret_cast<TCITEMA*>(lParam)) : FALSE;
         case TCM_GETITEMCOUNT: return Count();
-        case TCM_DELETEALLITEMS:
-            tabs_.clear();
-            selected_ = -1;
-            Redraw();
-            return TRUE;
         case TCM_GETITEMRECT:
             if (!Has(index) || !lParam) return FALSE;
             *reinterpret_cast<RECT*>(lParam) = TabRect(index);
             return TRUE;
         case TCM_GETCURSEL: return selected_;
         case TCM_SETCURSEL: return SelectByProgram(index);
-        case TCM_ADJUSTRECT: return lParam ? Adjust(wParam != 0, *reinterpret_cast<RECT*>(lParam)) : -1;
-        case WM_LBUTTONDOWN: SelectByUser(TabAt(PointOf(lParam))); return 0;
+        case WM_LBUTTONDOWN: Press(TabAt(PointOf(lParam))); return 0;
         case WM_KEYDOWN:
             if (KeyDown(wParam)) return 0;
             return Default(message, wParam, lParam);
@@ -185,7 +168,7 @@ void TabControl::Paint(HDC dc) {
             FillRect(dc, &rect, face);
         }
         DrawEdge(dc, &rect, EDGE_RAISED, BF_LEFT | BF_TOP | BF_RIGHT);
-        const std::string& text = tabs_[static_cast<size_t>(index)].text;
+        const std::string& text = tabs_[static_cast<size_t>(index)];
         DrawTextA(dc, text.c_str(), static_cast<int>(text.size()), &rect,
                   DT_SINGLELINE | DT_CENTER | DT_VCENTER);
         if (index != selected_ || !Focused()) continue;

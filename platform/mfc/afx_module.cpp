@@ -1,5 +1,6 @@
 #include "afx_module.h"
 
+#include <mutex>
 #include <utility>
 
 #include "afx_thread_state.h"
@@ -27,8 +28,13 @@ HINSTANCE OwnModule() {
 
 }  // namespace
 
+AFX_MODULE_STATE::~AFX_MODULE_STATE() {
+    for (const std::string& name : classes)
+        UnregisterClassA(name.c_str(), instance);
+}
+
 AFX_MODULE_STATE* AfxGetStaticModuleState() {
-    static AFX_MODULE_STATE state = {OwnModule(), nullptr};
+    static AFX_MODULE_STATE state(OwnModule());
     return &state;
 }
 
@@ -53,7 +59,11 @@ HINSTANCE AfxGetResourceHandle() {
 }
 
 BOOL AfxRegisterClass(WNDCLASSA* windowClass) {
+    static std::mutex mutex;
+    const std::lock_guard lock(mutex);
     WNDCLASSA known = {};
     if (GetClassInfoA(windowClass->hInstance, windowClass->lpszClassName, &known)) return TRUE;
-    return RegisterClassA(windowClass) != 0;
+    if (!RegisterClassA(windowClass)) return FALSE;
+    AfxGetModuleState()->classes.emplace_back(windowClass->lpszClassName);
+    return TRUE;
 }

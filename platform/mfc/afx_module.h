@@ -1,5 +1,8 @@
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "afx_base.h"
 
 class CWinApp;
@@ -8,6 +11,14 @@ class CWinApp;
 struct AFX_MODULE_STATE {
     HINSTANCE instance = nullptr;
     CWinApp* app = nullptr;
+    // What AfxRegisterClass registered: it goes with the module, whose code its windows run.
+    std::vector<std::string> classes;
+
+    AFX_MODULE_STATE() = default;
+    explicit AFX_MODULE_STATE(HINSTANCE module) : instance(module) {}
+    AFX_MODULE_STATE(const AFX_MODULE_STATE&) = delete;
+    AFX_MODULE_STATE& operator=(const AFX_MODULE_STATE&) = delete;
+    ~AFX_MODULE_STATE();
 };
 
 // The state of the module that holds this code.
@@ -33,5 +44,5 @@ private:
 HINSTANCE AfxGetInstanceHandle();
 HINSTANCE AfxGetResourceHandle();
 
-// Registers a window class, unless the module has one of that name.
+// Registers a window class until the module goes, unless it has one of that name. Any thread may ask.
 BOOL AfxRegisterClass(WNDCLASSA* windowClass);

@@ -38,7 +38,7 @@ private:
 };
 
 HandleTable<OpenFile>& Files() {
-    static HandleTable<OpenFile> table(kFirstFileHandle);
+    static auto& table = *new HandleTable<OpenFile>(kFirstFileHandle);
     return table;
 }
 

@@ -28,7 +28,7 @@ struct Search {
 };
 
 HandleTable<Search>& Searches() {
-    static HandleTable<Search> table(kFirstSearchHandle);
+    static auto& table = *new HandleTable<Search>(kFirstSearchHandle);
     return table;
 }
 

@@ -105,4 +105,20 @@ TEST(ModuleState, ComesBackWhenTheGuardGoes) {
     EXPECT_EQ(AfxGetModuleState(), AfxGetStaticModuleState());
 }
 
+TEST(ModuleState, TakesItsWindowClassesWithIt) {
+    const HINSTANCE instance = AfxGetInstanceHandle();
+    WNDCLASSA record = {};
+    record.lpfnWndProc = &::DefWindowProcA;
+    record.hInstance = instance;
+    record.lpszClassName = "OfTheModule";
+    {
+        AFX_MODULE_STATE module(instance);
+        AFX_MANAGE_STATE(&module)
+        EXPECT_TRUE(AfxRegisterClass(&record));
+        EXPECT_TRUE(AfxRegisterClass(&record)) << "it is there already";
+        EXPECT_TRUE(::GetClassInfoA(instance, "OfTheModule", &record));
+    }
+    EXPECT_FALSE(::GetClassInfoA(instance, "OfTheModule", &record));
+}
+
 }  // namespace

@@ -16,7 +16,7 @@ struct Watches {
 };
 
 Watches& AllWatches() {
-    static Watches watches;
+    static Watches& watches = *new Watches;
     return watches;
 }
 

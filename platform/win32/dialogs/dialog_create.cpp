@@ -21,7 +21,7 @@ struct States {
 };
 
 States& TheStates() {
-    static States states;
+    static States& states = *new States;
     return states;
 }
 

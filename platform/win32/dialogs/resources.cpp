@@ -18,7 +18,7 @@ struct Tables {
 };
 
 Tables& TheTables() {
-    static Tables tables;
+    static Tables& tables = *new Tables;
     return tables;
 }
 

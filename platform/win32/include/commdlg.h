@@ -4,7 +4,6 @@
 
 // The dialog that asks for a file.
 
-#define OFN_READONLY 0x1u
 #define OFN_OVERWRITEPROMPT 0x2u
 #define OFN_HIDEREADONLY 0x4u
 #define OFN_NOCHANGEDIR 0x8u

@@ -4,7 +4,6 @@
 
 // Threads of the run-time library.
 
-#define CREATE_SUSPENDED 0x4u
 
 extern "C" {
 

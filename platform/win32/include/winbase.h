@@ -29,7 +29,6 @@ WINBASEAPI void WINAPI Sleep(DWORD milliseconds);
 // Events and threads are closed by CloseHandle.
 WINBASEAPI HANDLE WINAPI CreateEventA(LPSECURITY_ATTRIBUTES security, BOOL manual, BOOL set, LPCSTR name);
 WINBASEAPI BOOL WINAPI SetEvent(HANDLE event);
-WINBASEAPI BOOL WINAPI ResetEvent(HANDLE event);
 WINBASEAPI DWORD WINAPI WaitForSingleObject(HANDLE object, DWORD milliseconds);
 WINBASEAPI BOOL WINAPI GetExitCodeThread(HANDLE thread, LPDWORD code);
 }

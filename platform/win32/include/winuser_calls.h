@@ -26,11 +26,7 @@ WINUSERAPI HWND WINAPI GetDesktopWindow();
 WINUSERAPI HWND WINAPI GetParent(HWND window);
 WINUSERAPI HWND WINAPI GetAncestor(HWND window, UINT which);
 WINUSERAPI HWND WINAPI GetWindow(HWND window, UINT relation);
-WINUSERAPI HWND WINAPI GetTopWindow(HWND window);
 WINUSERAPI BOOL WINAPI IsChild(HWND parent, HWND window);
-WINUSERAPI HWND WINAPI FindWindowA(LPCSTR className, LPCSTR text);
-WINUSERAPI HWND WINAPI FindWindowExA(HWND parent, HWND after, LPCSTR className, LPCSTR text);
-WINUSERAPI BOOL WINAPI EnumChildWindows(HWND parent, WNDENUMPROC callback, LPARAM parameter);
 WINUSERAPI BOOL WINAPI EnumThreadWindows(DWORD thread, WNDENUMPROC callback, LPARAM parameter);
 WINUSERAPI DWORD WINAPI GetWindowThreadProcessId(HWND window, LPDWORD process);
 
@@ -64,8 +60,6 @@ WINUSERAPI HWND WINAPI SetFocus(HWND window);
 WINUSERAPI HWND WINAPI GetFocus();
 WINUSERAPI HWND WINAPI SetActiveWindow(HWND window);
 WINUSERAPI HWND WINAPI GetActiveWindow();
-WINUSERAPI HWND WINAPI GetForegroundWindow();
-WINUSERAPI BOOL WINAPI SetForegroundWindow(HWND window);
 WINUSERAPI HWND WINAPI SetCapture(HWND window);
 WINUSERAPI HWND WINAPI GetCapture();
 WINUSERAPI BOOL WINAPI ReleaseCapture();
@@ -79,14 +73,11 @@ WINUSERAPI BOOL WINAPI SetCursorPos(int x, int y);
 // Messages.
 WINUSERAPI LRESULT WINAPI SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 WINUSERAPI BOOL WINAPI PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-WINUSERAPI BOOL WINAPI PostThreadMessageA(DWORD thread, UINT message, WPARAM wParam, LPARAM lParam);
 WINUSERAPI void WINAPI PostQuitMessage(int exitCode);
 WINUSERAPI BOOL WINAPI PeekMessageA(LPMSG message, HWND window, UINT first, UINT last, UINT remove);
 WINUSERAPI BOOL WINAPI GetMessageA(LPMSG message, HWND window, UINT first, UINT last);
 WINUSERAPI BOOL WINAPI TranslateMessage(const MSG* message);
 WINUSERAPI LRESULT WINAPI DispatchMessageA(const MSG* message);
-WINUSERAPI BOOL WINAPI WaitMessage();
-WINUSERAPI DWORD WINAPI GetMessagePos();
 WINUSERAPI LRESULT WINAPI DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 WINUSERAPI LRESULT WINAPI CallWindowProcA(WNDPROC procedure, HWND window, UINT message, WPARAM wParam,
                                           LPARAM lParam);
@@ -124,7 +115,6 @@ WINUSERAPI int WINAPI SetScrollPos(HWND window, int bar, int position, BOOL redr
 WINUSERAPI int WINAPI GetScrollPos(HWND window, int bar);
 WINUSERAPI BOOL WINAPI SetScrollRange(HWND window, int bar, int minimum, int maximum, BOOL redraw);
 WINUSERAPI BOOL WINAPI GetScrollRange(HWND window, int bar, int* minimum, int* maximum);
-WINUSERAPI BOOL WINAPI ShowScrollBar(HWND window, int bar, BOOL show);
 
 // Caret. Differs: it does not blink.
 WINUSERAPI BOOL WINAPI CreateCaret(HWND window, HBITMAP bitmap, int width, int height);
@@ -140,7 +130,6 @@ WINUSERAPI DWORD WINAPI GetSysColor(int index);
 WINUSERAPI HBRUSH WINAPI GetSysColorBrush(int index);
 WINUSERAPI HCURSOR WINAPI LoadCursorA(HINSTANCE module, LPCSTR name);
 WINUSERAPI HICON WINAPI LoadIconA(HINSTANCE module, LPCSTR name);
-WINUSERAPI UINT WINAPI GetDoubleClickTime();
 // Windows, or drawing objects and contexts, that are alive in this process. `process` is not looked at.
 WINUSERAPI DWORD WINAPI GetGuiResources(HANDLE process, DWORD kind);
 

@@ -32,7 +32,6 @@
 #define SS_NOPREFIX 0x80L
 
 // Edit.
-#define ES_LEFT 0x0L
 #define ES_MULTILINE 0x4L
 #define ES_AUTOVSCROLL 0x40L
 #define ES_AUTOHSCROLL 0x80L
@@ -70,7 +69,6 @@
 // List box.
 #define LBS_NOTIFY 0x1L
 #define LBS_SORT 0x2L
-#define LBS_HASSTRINGS 0x40L
 #define LBS_NOINTEGRALHEIGHT 0x100L
 #define LBS_COMBOBOX 0x8000L
 #define LB_ERR (-1)
@@ -96,8 +94,6 @@
 #define CBS_DROPDOWNLIST 0x3L
 #define CBS_AUTOHSCROLL 0x40L
 #define CBS_SORT 0x100L
-#define CBS_HASSTRINGS 0x200L
-#define CBS_NOINTEGRALHEIGHT 0x400L
 #define CB_ERR (-1)
 #define CB_ADDSTRING 0x0143u
 #define CB_DELETESTRING 0x0144u

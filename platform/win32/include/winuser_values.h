@@ -29,22 +29,18 @@
 
 #define WS_EX_DLGMODALFRAME 0x00000001L
 #define WS_EX_NOPARENTNOTIFY 0x00000004L
-#define WS_EX_TOPMOST 0x00000008L
 #define WS_EX_TOOLWINDOW 0x00000080L
 #define WS_EX_WINDOWEDGE 0x00000100L
 #define WS_EX_CLIENTEDGE 0x00000200L
-#define WS_EX_CONTEXTHELP 0x00000400L
 #define WS_EX_CONTROLPARENT 0x00010000L
 #define WS_EX_STATICEDGE 0x00020000L
 
-#define DS_SYSMODAL 0x2L
 #define DS_SETFONT 0x40L
 #define DS_MODALFRAME 0x80L
 #define DS_CONTROL 0x400L
 #define DS_CENTER 0x800L
 
 #define CW_USEDEFAULT (static_cast<int>(0x80000000u))
-#define HWND_DESKTOP (static_cast<HWND>(nullptr))
 
 // Words of a window and its class.
 #define GWLP_WNDPROC (-4)
@@ -84,7 +80,6 @@
 #define SWP_SHOWWINDOW 0x40u
 #define SWP_HIDEWINDOW 0x80u
 #define SWP_NOCOPYBITS 0x100u
-#define SWP_NOOWNERZORDER 0x200u
 #define SWP_NOSENDCHANGING 0x400u
 #define HWND_TOP (reinterpret_cast<HWND>(static_cast<LONG_PTR>(0)))
 #define HWND_BOTTOM (reinterpret_cast<HWND>(static_cast<LONG_PTR>(1)))
@@ -98,9 +93,6 @@
 #define RDW_UPDATENOW 0x100u
 #define RDW_FRAME 0x400u
 
-#define SW_SCROLLCHILDREN 0x1u
-#define SW_INVALIDATE 0x2u
-#define SW_ERASE 0x4u
 
 #define PM_NOREMOVE 0x0u
 #define PM_REMOVE 0x1u
@@ -124,7 +116,6 @@
 #define WM_QUIT 0x0012u
 #define WM_ERASEBKGND 0x0014u
 #define WM_SHOWWINDOW 0x0018u
-#define WM_SETCURSOR 0x0020u
 #define WM_MOUSEACTIVATE 0x0021u
 #define WM_GETMINMAXINFO 0x0024u
 #define WM_NEXTDLGCTL 0x0028u
@@ -147,7 +138,6 @@
 #define WM_GETDLGCODE 0x0087u
 #define WM_NCMOUSEMOVE 0x00A0u
 #define WM_NCLBUTTONDOWN 0x00A1u
-#define WM_NCLBUTTONUP 0x00A2u
 #define WM_KEYFIRST 0x0100u
 #define WM_KEYDOWN 0x0100u
 #define WM_KEYUP 0x0101u
@@ -173,8 +163,6 @@
 #define WM_LBUTTONUP 0x0202u
 #define WM_LBUTTONDBLCLK 0x0203u
 #define WM_RBUTTONDOWN 0x0204u
-#define WM_RBUTTONUP 0x0205u
-#define WM_RBUTTONDBLCLK 0x0206u
 #define WM_MOUSEWHEEL 0x020Au
 #define WM_MOUSELAST 0x020Au
 #define WM_PARENTNOTIFY 0x0210u
@@ -193,46 +181,27 @@
 #define SIZE_RESTORED 0
 #define WA_INACTIVE 0
 #define WA_ACTIVE 1
-#define WA_CLICKACTIVE 2
 #define MA_ACTIVATE 1
-#define ICON_SMALL 0
-#define ICON_BIG 1
 #define SC_CLOSE 0xF060u
-#define SC_CONTEXTHELP 0xF180u
 
-#define HTERROR (-2)
 #define HTTRANSPARENT (-1)
 #define HTNOWHERE 0
 #define HTCLIENT 1
 #define HTCAPTION 2
-#define HTSYSMENU 3
 #define HTHSCROLL 6
 #define HTVSCROLL 7
-#define HTLEFT 10
-#define HTRIGHT 11
-#define HTTOP 12
-#define HTTOPLEFT 13
-#define HTTOPRIGHT 14
-#define HTBOTTOM 15
-#define HTBOTTOMLEFT 16
-#define HTBOTTOMRIGHT 17
 #define HTBORDER 18
 #define HTCLOSE 20
-#define HTHELP 21
 
 #define MK_LBUTTON 0x1u
 #define MK_RBUTTON 0x2u
 #define MK_SHIFT 0x4u
-#define MK_CONTROL 0x8u
 
-#define VK_LBUTTON 0x01
-#define VK_RBUTTON 0x02
 #define VK_BACK 0x08
 #define VK_TAB 0x09
 #define VK_RETURN 0x0D
 #define VK_SHIFT 0x10
 #define VK_CONTROL 0x11
-#define VK_MENU 0x12
 #define VK_ESCAPE 0x1B
 #define VK_SPACE 0x20
 #define VK_PRIOR 0x21
@@ -254,7 +223,6 @@
 #define DLGC_HASSETSEL 0x8
 #define DLGC_DEFPUSHBUTTON 0x10
 #define DLGC_UNDEFPUSHBUTTON 0x20
-#define DLGC_RADIOBUTTON 0x40
 #define DLGC_WANTCHARS 0x80
 #define DLGC_STATIC 0x100
 #define DLGC_BUTTON 0x2000
@@ -339,7 +307,6 @@
 #define GR_GDIOBJECTS 0u
 #define GR_USEROBJECTS 1u
 
-#define WH_GETMESSAGE 3
 #define WH_CBT 5
 #define HCBT_CREATEWND 3
 #define HCBT_DESTROYWND 4
@@ -351,9 +318,7 @@
 #define MAKEINTRESOURCE MAKEINTRESOURCEA
 #define IS_INTRESOURCE(name) ((reinterpret_cast<ULONG_PTR>(name) >> 16) == 0)
 #define MAKEINTATOM(atom) (reinterpret_cast<LPSTR>(static_cast<ULONG_PTR>(static_cast<WORD>(atom))))
-#define RT_ICON MAKEINTRESOURCEA(3)
 #define RT_DIALOG MAKEINTRESOURCEA(5)
 #define RT_GROUP_ICON MAKEINTRESOURCEA(14)
-#define RT_VERSION MAKEINTRESOURCEA(16)
 #define IDC_ARROW MAKEINTRESOURCEA(32512)
 #define IDI_APPLICATION MAKEINTRESOURCEA(32512)

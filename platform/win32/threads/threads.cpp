@@ -31,7 +31,7 @@ struct Waitable {
 };
 
 HandleTable<Waitable>& Waitables() {
-    static HandleTable<Waitable> table(kFirstWaitableHandle);
+    static auto& table = *new HandleTable<Waitable>(kFirstWaitableHandle);
     return table;
 }
 
@@ -118,14 +118,6 @@ BOOL WINAPI SetEvent(HANDLE event) {
     const auto object = WaitableOf(event);
     if (object) Set(*object);
     return object != nullptr;
-}
-
-BOOL WINAPI ResetEvent(HANDLE event) {
-    const auto object = WaitableOf(event);
-    if (!object) return FALSE;
-    const std::lock_guard lock(object->mutex);
-    object->set = false;
-    return TRUE;
 }
 
 DWORD WINAPI WaitForSingleObject(HANDLE handle, DWORD milliseconds) {

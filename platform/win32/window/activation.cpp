@@ -99,14 +99,6 @@ HWND WINAPI GetActiveWindow() {
     return CurrentQueue().active;
 }
 
-HWND WINAPI GetForegroundWindow() {
-    return CurrentQueue().active;
-}
-
-BOOL WINAPI SetForegroundWindow(HWND window) {
-    return IsWindow(window) && (SetActiveWindow(window) || GetActiveWindow() == window);
-}
-
 void LoseFocus(HWND handle) {
     ThreadQueue& queue = CurrentQueue();
     if (queue.capture && (queue.capture == handle || IsChild(handle, queue.capture))) ReleaseCapture();

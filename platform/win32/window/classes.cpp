@@ -33,7 +33,7 @@ struct Classes {
 };
 
 Classes& TheClasses() {
-    static Classes classes;
+    static Classes& classes = *new Classes;
     return classes;
 }
 

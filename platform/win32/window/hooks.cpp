@@ -11,7 +11,7 @@ struct Hook {
 };
 
 std::unordered_map<HHOOK, Hook>& Hooks() {
-    static std::unordered_map<HHOOK, Hook> hooks;
+    static auto& hooks = *new std::unordered_map<HHOOK, Hook>;
     return hooks;
 }
 

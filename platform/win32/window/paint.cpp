@@ -37,7 +37,7 @@ void Enqueue(Window& window) {
 }
 
 std::unordered_set<HDC>& OpenContexts() {
-    static std::unordered_set<HDC> contexts;
+    static auto& contexts = *new std::unordered_set<HDC>;
     return contexts;
 }
 

@@ -178,33 +178,22 @@ bool Take(ThreadQueue& queue, MSG& message, HWND filter, UINT first, UINT last, 
     return TakePaint(queue, message, filter, first, last);
 }
 
-void Remember(ThreadQueue& queue, const MSG& message) {
-    queue.message_place = static_cast<DWORD>(MAKELONG(message.pt.x, message.pt.y));
+BOOL PostToOwnThread(UINT message, WPARAM wParam, LPARAM lParam) {
+    ThreadQueue& queue = CurrentQueue();
+    const std::lock_guard lock(WindowMutex());
+    queue.posted.push_back(NewMessage(nullptr, message, wParam, lParam));
+    return TRUE;
 }
 
 }  // namespace
 
 BOOL WINAPI PostMessageA(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (!handle) return PostThreadMessageA(GetCurrentThreadId(), message, wParam, lParam);
+    if (!handle) return PostToOwnThread(message, wParam, lParam);
     const MSG made = NewMessage(handle, message, wParam, lParam);
     const std::lock_guard lock(WindowMutex());
     const WindowRef window = FindWindowLocked(handle);
     ThreadQueue* const queue = window ? QueueOf(window->thread) : nullptr;
     if (!queue) return FALSE;
-    queue->posted.push_back(made);
-    queue->changed.notify_all();
-    return TRUE;
-}
-
-BOOL WINAPI PostThreadMessageA(DWORD thread, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (thread == GetCurrentThreadId()) CurrentQueue();
-    const MSG made = NewMessage(nullptr, message, wParam, lParam);
-    const std::lock_guard lock(WindowMutex());
-    ThreadQueue* const queue = QueueOf(thread);
-    if (!queue) {
-        SetLastError(ERROR_INVALID_THREAD_ID);
-        return FALSE;
-    }
     queue->posted.push_back(made);
     queue->changed.notify_all();
     return TRUE;
@@ -221,9 +210,7 @@ BOOL WINAPI PeekMessageA(LPMSG message, HWND window, UINT first, UINT last, UINT
     ThreadQueue& queue = CurrentQueue();
     std::unique_lock lock(WindowMutex());
     AnswerSentMessages(queue, lock);
-    if (!Take(queue, *message, window, first, last, (remove & PM_REMOVE) != 0)) return FALSE;
-    Remember(queue, *message);
-    return TRUE;
+    return Take(queue, *message, window, first, last, (remove & PM_REMOVE) != 0);
 }
 
 BOOL WINAPI GetMessageA(LPMSG message, HWND window, UINT first, UINT last) {
@@ -234,19 +221,7 @@ BOOL WINAPI GetMessageA(LPMSG message, HWND window, UINT first, UINT last) {
         if (Take(queue, *message, window, first, last, true)) break;
         queue.changed.wait(lock);
     }
-    Remember(queue, *message);
     return message->message != WM_QUIT;
-}
-
-BOOL WINAPI WaitMessage() {
-    ThreadQueue& queue = CurrentQueue();
-    std::unique_lock lock(WindowMutex());
-    for (;;) {
-        AnswerSentMessages(queue, lock);
-        MSG message = {};
-        if (Take(queue, message, nullptr, 0, 0, false)) return TRUE;
-        queue.changed.wait(lock);
-    }
 }
 
 LRESULT WINAPI DispatchMessageA(const MSG* message) {
@@ -254,8 +229,4 @@ LRESULT WINAPI DispatchMessageA(const MSG* message) {
     const WindowRef window = FindWindowRef(message->hwnd);
     if (!window) return 0;
     return CallProcedure(*window, message->message, message->wParam, message->lParam);
-}
-
-DWORD WINAPI GetMessagePos() {
-    return CurrentQueue().message_place;
 }

@@ -33,7 +33,6 @@ struct ThreadQueue {
     HWND active = nullptr;
     HWND capture = nullptr;
     BYTE keys[256] = {};
-    DWORD message_place = 0;
     std::vector<HHOOK> hooks;
 
     HWND caret_window = nullptr;

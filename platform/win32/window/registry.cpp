@@ -19,7 +19,7 @@ struct Registry {
 };
 
 Registry& TheRegistry() {
-    static Registry registry;
+    static Registry& registry = *new Registry;
     return registry;
 }
 

@@ -94,7 +94,15 @@ void RepaintBar(HWND handle) {
 
 // A bar is there while there is something to scroll.
 void ShowAsNeeded(HWND handle, int bar, const ScrollState& state) {
-    ShowScrollBar(handle, bar, LastPosition(state) > state.minimum);
+    const WindowRef window = FindWindowRef(handle);
+    const bool show = LastPosition(state) > state.minimum;
+    if (!window || ((window->style & StyleOf(bar)) != 0) == show) return;
+    {
+        const std::lock_guard lock(WindowMutex());
+        window->style ^= StyleOf(bar);
+    }
+    SetWindowPos(handle, nullptr, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
 }
 
 }  // namespace
@@ -205,18 +213,5 @@ BOOL WINAPI GetScrollRange(HWND window, int bar, int* minimum, int* maximum) {
     if (!GetScrollInfo(window, bar, &info)) return FALSE;
     *minimum = info.nMin;
     *maximum = info.nMax;
-    return TRUE;
-}
-
-BOOL WINAPI ShowScrollBar(HWND handle, int bar, BOOL show) {
-    const WindowRef window = FindWindowRef(handle);
-    if (!window || !IsBar(bar)) return FALSE;
-    if (((window->style & StyleOf(bar)) != 0) == (show != FALSE)) return TRUE;
-    {
-        const std::lock_guard lock(WindowMutex());
-        window->style ^= StyleOf(bar);
-    }
-    SetWindowPos(handle, nullptr, 0, 0, 0, 0,
-                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
     return TRUE;
 }

@@ -23,10 +23,6 @@ int WINAPI GetSystemMetrics(int index) {
     }
 }
 
-UINT WINAPI GetDoubleClickTime() {
-    return 500;
-}
-
 DWORD WINAPI GetGuiResources(HANDLE, DWORD kind) {
     return kind == GR_GDIOBJECTS ? CountDrawingObjects() : kind == GR_USEROBJECTS ? CountWindows() : 0;
 }

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "ascii_case.h"
 #include "desktop.h"
 #include "window.h"
 
@@ -23,10 +22,9 @@ HWND Neighbour(Window& window, UINT relation) {
     }
 }
 
-bool NamesMatch(const Window& window, LPCSTR className, LPCSTR text) {
-    if (className && !IS_INTRESOURCE(className) && CompareAsciiCaseless(window.cls->name, className) != 0)
-        return false;
-    return !text || CompareAsciiCaseless(window.text, text) == 0;
+HWND TopLevel() {
+    const std::vector<HWND> windows = ChildrenOf(nullptr);
+    return windows.empty() ? nullptr : windows.front();
 }
 
 }  // namespace
@@ -56,7 +54,7 @@ HWND WINAPI GetAncestor(HWND window, UINT which) {
 }
 
 HWND WINAPI GetWindow(HWND window, UINT relation) {
-    if (window == kDesktopWindow) return relation == GW_CHILD ? GetTopWindow(nullptr) : nullptr;
+    if (window == kDesktopWindow) return relation == GW_CHILD ? TopLevel() : nullptr;
     const WindowRef found = FindWindowRef(window);
     if (!found) return nullptr;
     const std::lock_guard lock(WindowMutex());
@@ -65,48 +63,12 @@ HWND WINAPI GetWindow(HWND window, UINT relation) {
     return relation <= GW_HWNDPREV ? Neighbour(*found, relation) : nullptr;
 }
 
-HWND WINAPI GetTopWindow(HWND window) {
-    const std::vector<HWND> children = ChildrenOf(window == kDesktopWindow ? nullptr : window);
-    return children.empty() ? nullptr : children.front();
-}
-
 BOOL WINAPI IsChild(HWND parent, HWND window) {
     const WindowRef above = FindWindowRef(parent);
     const WindowRef below = FindWindowRef(window);
     if (!above || !below) return FALSE;
     const std::lock_guard lock(WindowMutex());
     return IsAncestor(above.get(), below.get());
-}
-
-HWND WINAPI FindWindowA(LPCSTR className, LPCSTR text) {
-    return FindWindowExA(nullptr, nullptr, className, text);
-}
-
-HWND WINAPI FindWindowExA(HWND parent, HWND after, LPCSTR className, LPCSTR text) {
-    bool behind = after == nullptr;
-    for (HWND const handle : ChildrenOf(parent == kDesktopWindow ? nullptr : parent)) {
-        const WindowRef window = FindWindowRef(handle);
-        const std::lock_guard lock(WindowMutex());
-        if (behind && window && NamesMatch(*window, className, text)) return handle;
-        if (handle == after) behind = true;
-    }
-    return nullptr;
-}
-
-namespace {
-
-bool EnumBelow(HWND parent, WNDENUMPROC callback, LPARAM parameter) {
-    for (HWND const child : ChildrenOf(parent)) {
-        if (!IsWindow(child)) continue;
-        if (!callback(child, parameter) || !EnumBelow(child, callback, parameter)) return false;
-    }
-    return true;
-}
-
-}  // namespace
-
-BOOL WINAPI EnumChildWindows(HWND parent, WNDENUMPROC callback, LPARAM parameter) {
-    return parent && EnumBelow(parent, callback, parameter);
 }
 
 BOOL WINAPI EnumThreadWindows(DWORD thread, WNDENUMPROC callback, LPARAM parameter) {

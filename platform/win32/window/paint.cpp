@@ -31,8 +31,8 @@ Region VisiblePart(Window& window, const RECT& rect) {
 void Enqueue(Window& window) {
     ThreadQueue* const queue = QueueOf(window.thread);
     if (window.pending_paint || !queue) return;
-    window.pending_paint = true;
-    queue->paints.push_back(&window);
+    window.pending_paint = queue->next_paint++;
+    queue->paints[*window.pending_paint] = &window;
     queue->changed.notify_all();
 }
 
@@ -85,6 +85,14 @@ void FitSurface(Window& window) {
     window.surface = std::move(fitted);
 }
 
+namespace {
+
+bool Touch(const RECT& a, const RECT& b) {
+    return a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
+}
+
+}  // namespace
+
 void Invalidate(Window& window, const Region& part, UINT flags) {
     if (!IsShown(window)) return;
     Region inside = part;
@@ -96,8 +104,7 @@ void Invalidate(Window& window, const Region& part, UINT flags) {
     if (window.style & WS_CLIPCHILDREN && !(flags & RDW_ALLCHILDREN)) return;
     const RECT bounds = inside.Bounds();
     for (Window* const child : window.children) {
-        RECT common = {};
-        if (!(child->style & WS_VISIBLE) || !IntersectRect(&common, &bounds, &child->rect)) continue;
+        if (!(child->style & WS_VISIBLE) || !Touch(bounds, child->rect)) continue;
         Region covered = inside;
         covered.Intersect(child->rect);
         if (!covered.Empty()) Invalidate(*child, covered, flags | RDW_FRAME | RDW_ERASE);
@@ -115,9 +122,8 @@ void InvalidateBehind(Window& window, const RECT& rect) {
 void ForgetPaint(Window& window) {
     ThreadQueue* const queue = QueueOf(window.thread);
     if (!queue || !window.pending_paint) return;
-    queue->paints.erase(std::remove(queue->paints.begin(), queue->paints.end(), &window),
-                        queue->paints.end());
-    window.pending_paint = false;
+    queue->paints.erase(*window.pending_paint);
+    window.pending_paint.reset();
 }
 
 // ---- Contexts. ----

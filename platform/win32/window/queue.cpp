@@ -135,10 +135,10 @@ bool NeedsPaint(const Window& window) {
 // The window to be painted next: parents before what stands on them.
 Window* NextPaint(ThreadQueue& queue) {
     while (!queue.paints.empty()) {
-        Window* window = queue.paints.front();
+        Window* window = queue.paints.begin()->second;
         if (!NeedsPaint(*window)) {
-            window->pending_paint = false;
-            queue.paints.pop_front();
+            window->pending_paint.reset();
+            queue.paints.erase(queue.paints.begin());
             continue;
         }
         for (Window* above = window->parent; above; above = above->parent)

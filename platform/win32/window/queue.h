@@ -1,7 +1,9 @@
 #pragma once
 
 #include <condition_variable>
+#include <cstdint>
 #include <deque>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -25,7 +27,9 @@ struct ThreadQueue {
     std::condition_variable changed;
     std::deque<MSG> posted;
     std::deque<std::shared_ptr<SentMessage>> sent;
-    std::deque<Window*> paints;  // windows that wait for WM_PAINT, in the order in which they became invalid
+    // Windows that wait for WM_PAINT, in the order in which they became invalid.
+    std::map<uint64_t, Window*> paints;
+    uint64_t next_paint = 0;
     bool quit = false;
     int exit_code = 0;
 

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <mutex>
 #include <string>
 #include <vector>
@@ -57,7 +58,7 @@ struct Window {
     Region update;
     bool erase = false;
     bool frame_dirty = false;
-    bool pending_paint = false;  // it is in its queue's list
+    std::optional<uint64_t> pending_paint;  // its place in its queue's list
 
     std::shared_ptr<Surface> surface;  // of a top-level window
 };

@@ -209,25 +209,6 @@ TEST(EntryControls, DropListChoosesByKeysAndLeavesOutWhatIsThere) {
     EXPECT_STREQ(panel.Control(kTool).GetValue(), "lamp");
 }
 
-TEST(EntryControls, RightClickShowsTheHelpTextAtItsEnd) {
-    Panel panel(kEveryKind);
-    const DialogWatcher watcher(1013);
-    panel.Control(kSpeed).SendMessage(WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(1, 1));
-    panel.Control(kTurn).SendMessage(WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(1, 1));
-    EXPECT_EQ(DialogWatcher::Seen(), "Help: How fast\nHelp: No Help Available\n");
-}
-
-TEST(EntryControls, PictureThatNobodyHasKeepsTheRoom) {
-    const struct {
-        const char* name;
-        int height;
-    } rows[] = {{"no such picture.bmp", 24}, {"Z:\\etc\\passwd", 1}};
-    for (const auto& row : rows) {
-        Panel panel(std::string("// image: ") + row.name + "\n");
-        EXPECT_EQ(panel.Control(0).GetHeight(), row.height) << row.name;
-    }
-}
-
 TEST(EntryControls, FileFilterGoesByTheExtension) {
     const struct {
         const char* name;

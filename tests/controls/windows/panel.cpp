@@ -1,6 +1,6 @@
 #include "controls/windows/panel.h"
 
-#include <cstring>
+#include <utility>
 
 #include "controls/entry_classes.h"
 #include "customize/tag_parser.h"
@@ -13,16 +13,30 @@ CWinApp test_app;
 }  // namespace
 
 Panel::Panel(const std::string& script, TarnInterface* host) {
-    RegisterEntryClasses();
-    dialog_.Create(kViewerFrameDialog);
-    dialog_.ShowWindow(SW_SHOW);
-    list_.parent = &dialog_;
-    Pump();
+    Open();
     if (script.empty()) return;
     text_ = ScriptText::Copy(script.data(), static_cast<long>(script.size()));
     CLex lex(text_.Data(), text_.Size());
     ScriptHeader header;
     ParseScriptTags(header, list_, lex);
+    AddControls(host);
+}
+
+Panel::Panel(std::vector<CScriptEntry> entries) {
+    Open();
+    list_.entries = std::move(entries);
+    AddControls(nullptr);
+}
+
+void Panel::Open() {
+    RegisterEntryClasses();
+    dialog_.Create(kViewerFrameDialog);
+    dialog_.ShowWindow(SW_SHOW);
+    list_.parent = &dialog_;
+    Pump();
+}
+
+void Panel::AddControls(TarnInterface* host) {
     for (size_t i = 0; i < list_.entries.size(); ++i)
         CreateEntryControl(list_, i, host);
     Pump();
@@ -93,45 +107,4 @@ SIZE Measured(CWnd& window, const char* text, int length, LONG weight) {
 COLORREF Pixel(CWnd& window, int x, int y) {
     CClientDC dc(&window);
     return GetPixel(dc.GetSafeHdc(), x, y);
-}
-
-namespace {
-
-HHOOK hook;
-int watched_text;
-int watched_button;
-std::string seen;
-
-// The dialog is activated once its controls are set up.
-LRESULT CALLBACK Watch(int code, WPARAM wParam, LPARAM lParam) {
-    const HWND window = reinterpret_cast<HWND>(wParam);
-    char name[16] = {};
-    if (code == HCBT_ACTIVATE && GetClassNameA(window, name, sizeof name) &&
-        std::strcmp(name, "#32770") == 0 && GetDlgItem(window, watched_text)) {
-        char text[512] = {};
-        GetWindowTextA(window, text, sizeof text);
-        seen += text;
-        GetDlgItemTextA(window, watched_text, text, sizeof text);
-        seen += std::string(": ") + text + "\n";
-        PostMessageA(window, WM_COMMAND, static_cast<WPARAM>(watched_button),
-                     reinterpret_cast<LPARAM>(GetDlgItem(window, watched_button)));
-    }
-    return CallNextHookEx(hook, code, wParam, lParam);
-}
-
-}  // namespace
-
-DialogWatcher::DialogWatcher(int text_id, int button_id) {
-    watched_text = text_id;
-    watched_button = button_id;
-    seen.clear();
-    hook = SetWindowsHookExA(WH_CBT, &Watch, nullptr, GetCurrentThreadId());
-}
-
-DialogWatcher::~DialogWatcher() {
-    UnhookWindowsHookEx(hook);
-}
-
-std::string DialogWatcher::Seen() {
-    return seen;
 }

@@ -3,6 +3,7 @@
 #include <afxwin.h>
 
 #include <string>
+#include <vector>
 
 #include "controls/entry_wnd.h"
 #include "customize/entry_controls.h"
@@ -12,6 +13,7 @@
 class Panel {
 public:
     explicit Panel(const std::string& script = {}, TarnInterface* host = nullptr);
+    explicit Panel(std::vector<CScriptEntry> entries);
     Panel(const Panel&) = delete;
     Panel& operator=(const Panel&) = delete;
     ~Panel();
@@ -29,6 +31,9 @@ public:
     }
 
 private:
+    void Open();
+    void AddControls(TarnInterface* host);
+
     CDialog dialog_;
     ScriptText text_;
     CEntryList list_;
@@ -48,15 +53,3 @@ void Click(CWnd& window, int x, int y);
 // Size of a text in a window's font.
 SIZE Measured(CWnd& window, const char* text, int length, LONG weight = FW_NORMAL);
 COLORREF Pixel(CWnd& window, int x, int y);
-
-// What the next modal dialogs of this thread say: caption and the text of a control. Each is closed at once,
-// by the button with that id.
-class DialogWatcher {
-public:
-    explicit DialogWatcher(int text_id, int button_id = IDOK);
-    DialogWatcher(const DialogWatcher&) = delete;
-    DialogWatcher& operator=(const DialogWatcher&) = delete;
-    ~DialogWatcher();
-
-    static std::string Seen();
-};

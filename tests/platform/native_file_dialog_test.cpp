@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "modal_driver.h"
+#include "resource_count.h"
 #include "temp_folder.h"
 
 // The list of the file dialog is a list box here, and a view of the shell under Windows.
@@ -78,8 +79,7 @@ TEST(NativeFileDialog, BadRecordsAreRefused) {
 }
 
 TEST(NativeFileDialog, NothingIsLeftBehind) {
-    const DWORD windows = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
-    const DWORD objects = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+    const ResourceCount before = CountResources();
     {
         char path[MAX_PATH] = "";
         OPENFILENAMEA record = {};
@@ -89,8 +89,7 @@ TEST(NativeFileDialog, NothingIsLeftBehind) {
         ModalDriver driver({{"Open", [](HWND dialog) { Click(dialog, IDCANCEL); }}});
         EXPECT_FALSE(GetOpenFileNameA(&record));
     }
-    EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS), windows);
-    EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), objects);
+    EXPECT_EQ(CountResources(), before);
 }
 
 }  // namespace

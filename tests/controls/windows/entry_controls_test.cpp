@@ -5,6 +5,7 @@
 #include "controls/entry_choose_file.h"
 #include "controls/entry_drop.h"
 #include "controls/windows/panel.h"
+#include "platform/resource_count.h"
 
 namespace {
 
@@ -220,12 +221,13 @@ TEST(EntryControls, FileFilterGoesByTheExtension) {
 }
 
 TEST(EntryControls, NothingIsLeftBehind) {
-    const DWORD windows = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
-    const DWORD objects = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
-    for (int round = 0; round < 100; ++round)
-        Panel panel(kEveryKind);
-    EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS), windows);
-    EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), objects);
+    const auto rounds = [](int count) {
+        for (int round = 0; round < count; ++round)
+            Panel panel(kEveryKind);
+        return CountResources();
+    };
+    const ResourceCount before = rounds(2);
+    EXPECT_EQ(rounds(100), before);
 }
 
 }  // namespace

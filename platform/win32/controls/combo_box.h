@@ -51,4 +51,8 @@ private:
     bool setting_text_ = false;
 };
 
+// Keys that step through the items, and keys that close the open list.
+bool MovesSelection(WPARAM key);
+bool ClosesList(WPARAM key);
+
 void RegisterComboBoxClass();

@@ -159,7 +159,7 @@ TEST(SkillsAndFlags, AreNumbersWithLimitsAndBoxes) {
     EXPECT_STREQ(panel.Control(3).GetValue(), "0");
 }
 
-// Fewer than one column stands for a usual width, one row for a field of one line.
+// Without columns the field follows the panel; one row is a field of one line.
 TEST(TextSizes, AreCountedInCharactersAndLines) {
     Panel panel(
         "// entry_text: 0, 1, A\nstring a = \"x\";\n// entry_text: 10, 1, B\nstring b = \"x\";\n"
@@ -167,7 +167,8 @@ TEST(TextSizes, AreCountedInCharactersAndLines) {
     RECT places[3] = {};
     for (size_t i = 0; i < 3; ++i)
         places[i] = PlaceOf(Child(panel.Control(i), 1010)->m_hWnd);
-    EXPECT_GT(places[0].right - places[0].left, places[1].right - places[1].left);
+    EXPECT_EQ(places[0].right - places[0].left, panel.Width() - 8) << "as wide as the control";
+    EXPECT_NE(places[1].right - places[1].left, panel.Width() - 8);
     EXPECT_EQ(places[0].bottom - places[0].top, places[1].bottom - places[1].top);
     const int line = static_cast<int>(Measured(panel.Window(), "Ag01", 4).cy) + 1;
     EXPECT_EQ((places[2].bottom - places[2].top) - (places[1].bottom - places[1].top), 3 * line + 1);

@@ -9,23 +9,10 @@ struct NamedInput {
 };
 
 const NamedInput kInputs[] = {
-    {"Left", WM_KEYDOWN, VK_LEFT},
-    {"Right", WM_KEYDOWN, VK_RIGHT},
-    {"Up", WM_KEYDOWN, VK_UP},
-    {"Down", WM_KEYDOWN, VK_DOWN},
-    {"Home", WM_KEYDOWN, VK_HOME},
-    {"End", WM_KEYDOWN, VK_END},
-    {"PageUp", WM_KEYDOWN, VK_PRIOR},
-    {"PageDown", WM_KEYDOWN, VK_NEXT},
-    {"Delete", WM_KEYDOWN, VK_DELETE},
-    {"Back", WM_CHAR, '\b'},
-    {"Enter", WM_CHAR, '\r'},
-    {"Tab", WM_CHAR, '\t'},
-    {"undo", WM_UNDO, 0},
-    {"cut", WM_CUT, 0},
-    {"copy", WM_COPY, 0},
-    {"paste", WM_PASTE, 0},
-    {"clear", WM_CLEAR, 0},
+    {"Left", WM_KEYDOWN, VK_LEFT},    {"Right", WM_KEYDOWN, VK_RIGHT},   {"Up", WM_KEYDOWN, VK_UP},
+    {"Down", WM_KEYDOWN, VK_DOWN},    {"Home", WM_KEYDOWN, VK_HOME},     {"End", WM_KEYDOWN, VK_END},
+    {"PageUp", WM_KEYDOWN, VK_PRIOR}, {"PageDown", WM_KEYDOWN, VK_NEXT}, {"Delete", WM_KEYDOWN, VK_DELETE},
+    {"Back", WM_CHAR, '\b'},          {"Enter", WM_CHAR, '\r'},          {"Tab", WM_CHAR, '\t'},
 };
 
 }  // namespace

@@ -10,7 +10,7 @@
 // An edit control that is driven by words and shown as one string.
 //
 // Inputs: Left Right Up Down Home End PageUp PageDown Delete, with + for Shift and ^ for Ctrl before them;
-// Back Enter Tab; undo cut copy paste clear; anything else is typed. Shown: the text with | for the caret or
+// Back Enter Tab; anything else is typed. Shown: the text with | for the caret or
 // [ ] around the selection, and / for CR LF.
 class EditDriver {
 public:
@@ -25,8 +25,8 @@ public:
     LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
         return SendMessageA(window_, message, wParam, lParam);
     }
-    LRESULT Replace(const char* text, bool can_undo = true) const {
-        return Send(EM_REPLACESEL, can_undo, reinterpret_cast<LPARAM>(text));
+    LRESULT Replace(const char* text) const {
+        return Send(EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(text));
     }
     void Do(std::string_view input) const;
     std::string Shown() const;

@@ -35,25 +35,10 @@ TEST(EditText, CutsBackWhatHadNoRoom) {
     EditText text(false);
     text.Assign("abc");
     text.Select(1, 2);
-    text.Replace("XYZ", true);
+    text.Replace("XYZ");
     text.CutBeforeCaret(2);
     EXPECT_EQ(text.Text(), "aXc");
     EXPECT_EQ(text.Caret(), 2u);
-    EXPECT_TRUE(text.Undo());
-    EXPECT_EQ(text.Text(), "abc");
-    EXPECT_EQ(text.SelectedText(), "b");
-    EXPECT_TRUE(text.Undo());
-    EXPECT_EQ(text.Text(), "aXc");
-}
-
-TEST(EditText, NothingToUndo) {
-    EditText text(false);
-    EXPECT_FALSE(text.Undo());
-    text.Assign("abc");
-    text.Replace("", true);
-    EXPECT_FALSE(text.Undo());
-    text.Replace("x", false);
-    EXPECT_FALSE(text.Undo());
 }
 
 // Ten pixels for every character but the narrow i.

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstring>
 
-#include "clipboard_text.h"
 #include "edit.h"
 
 namespace {
@@ -50,20 +49,12 @@ LRESULT EditControl::HandleText(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_SETTEXT: SetText(reinterpret_cast<const char*>(lParam)); return TRUE;
         case WM_GETTEXT: return CopyText(wParam, reinterpret_cast<char*>(lParam));
         case WM_GETTEXTLENGTH: return static_cast<LRESULT>(text_.Length());
-        case WM_CUT: Cut(); return 0;
-        case WM_COPY: Copy(); return 0;
-        case WM_PASTE: Paste(); return 0;
-        case WM_CLEAR:
-            if (!IsReadOnly()) ReplaceSelection({}, true);
-            return 0;
-        case WM_UNDO: Undo(); return TRUE;
         case EM_REPLACESEL: {
             const auto* text = reinterpret_cast<const char*>(lParam);
-            ReplaceSelection(text ? text : "", wParam != 0);
+            ReplaceSelection(text ? text : "");
             return 1;
         }
         case EM_SETREADONLY: SetReadOnly(wParam != 0); return 1;
-        case EM_SETMODIFY: modified_ = wParam != 0; return 0;
         case EM_LIMITTEXT: SetLimit(wParam); return 0;
         case EM_FMTLINES: return format_lines_ = wParam != 0;
         default: return HandleQuery(message, wParam, lParam);
@@ -95,7 +86,6 @@ void EditControl::SetReadOnly(bool read_only) {
 
 void EditControl::SetText(const char* text) {
     text_.Assign(text ? text : "");
-    modified_ = false;
     caret_at_end_ = false;
     first_line_ = first_char_ = 0;
     scrolled_ = 0;
@@ -115,7 +105,7 @@ LRESULT EditControl::CopyText(WPARAM size, char* buffer) const {
     return static_cast<LRESULT>(count);
 }
 
-void EditControl::ReplaceSelection(std::string_view text, bool can_undo) {
+void EditControl::ReplaceSelection(std::string_view text) {
     if (text.empty() && !text_.HasSelection()) return;
     const auto room = [this] {
         const size_t kept = text_.Length() - text_.SelectedText().size();
@@ -125,8 +115,7 @@ void EditControl::ReplaceSelection(std::string_view text, bool can_undo) {
         Notify(EN_MAXTEXT);
         text = text.substr(0, room());
     }
-    text_.Replace(text, can_undo);
-    modified_ = true;
+    text_.Replace(text);
     caret_at_end_ = false;
     TextChanged();
     if (const size_t overhang = Overhang(text.size())) {
@@ -161,33 +150,6 @@ void EditControl::TextChanged() {
     if (!multi_line_) return;
     lines_.Build(text_, measure_, WrapWidth());
     UpdateScrollBar();
-}
-
-void EditControl::Cut() {
-    Copy();
-    if (!IsReadOnly()) ReplaceSelection({}, true);
-}
-
-void EditControl::Copy() const {
-    if (text_.HasSelection()) SetClipboardText(std::string(text_.SelectedText()));
-}
-
-void EditControl::Paste() {
-    if (IsReadOnly()) return;
-    std::string text = ClipboardText();
-    if (!multi_line_) text.resize(std::min(text.find_first_of("\r\n"), text.size()));
-    ReplaceSelection(text, true);
-}
-
-void EditControl::Undo() {
-    if (IsReadOnly() || !text_.Undo()) return;
-    modified_ = true;
-    caret_at_end_ = false;
-    TextChanged();
-    Notify(EN_UPDATE);
-    ScrollToCaret();
-    Redraw();
-    Notify(EN_CHANGE);
 }
 
 void EditControl::SetLimit(WPARAM limit) {

@@ -33,14 +33,10 @@ private:
     LRESULT CopyText(WPARAM size, char* buffer) const;
     // Puts text into the place of the selection, as far as there is room, and tells the parent. Nothing in
     // the place of nothing is no change.
-    void ReplaceSelection(std::string_view text, bool can_undo);
+    void ReplaceSelection(std::string_view text);
     // How much of what was just put before the caret does not fit into the window, where it must.
     size_t Overhang(size_t inserted) const;
     void TextChanged();
-    void Cut();
-    void Copy() const;
-    void Paste();
-    void Undo();
 
     // ---- Queries. ----
     LRESULT GetSelection(DWORD* start, DWORD* end) const;
@@ -105,7 +101,6 @@ private:
     TextMeasure measure_;
     EditLines lines_;  // of several; a single line has no table
     size_t limit_ = 30000;
-    bool modified_ = false;
     bool format_lines_ = false;  // EM_FMTLINES
     bool focused_ = false;
     bool dragging_ = false;

@@ -5,10 +5,6 @@
 namespace {
 
 // What TranslateMessage makes of Ctrl and a letter.
-constexpr char kControlC = 3;
-constexpr char kControlV = 22;
-constexpr char kControlX = 24;
-constexpr char kControlZ = 26;
 constexpr char kControlBackspace = 127;
 
 }  // namespace
@@ -121,11 +117,7 @@ void EditControl::MoveLines(int lines, bool extend) {
 
 void EditControl::DeleteKey(bool shift, bool control) {
     if (text_.HasSelection()) {
-        if (shift) {
-            Cut();
-        } else {
-            ReplaceSelection({}, true);
-        }
+        ReplaceSelection({});
         return;
     }
     const size_t caret = text_.Caret();
@@ -137,7 +129,7 @@ void EditControl::DeleteKey(bool shift, bool control) {
         end = multi_line_ ? lines_[line].start + lines_[line].length : text_.Length();
     }
     text_.Select(end, caret);
-    ReplaceSelection({}, true);
+    ReplaceSelection({});
 }
 
 void EditControl::Character(char c) {
@@ -146,27 +138,23 @@ void EditControl::Character(char c) {
         case '\n': NewLine(); return;
         case '\b': Backspace(); return;
         case '\t':
-            if (multi_line_ && !in_dialog_ && !IsReadOnly()) ReplaceSelection("\t", true);
+            if (multi_line_ && !in_dialog_ && !IsReadOnly()) ReplaceSelection("\t");
             return;
-        case kControlC: Copy(); return;
-        case kControlV: Paste(); return;
-        case kControlX: Cut(); return;
-        case kControlZ: Undo(); return;
         case kControlBackspace: return;
         default: break;
     }
-    if (static_cast<unsigned char>(c) >= ' ' && !IsReadOnly()) ReplaceSelection({&c, 1}, true);
+    if (static_cast<unsigned char>(c) >= ' ' && !IsReadOnly()) ReplaceSelection({&c, 1});
 }
 
 void EditControl::NewLine() {
     if (!multi_line_ || IsReadOnly()) return;
     if (in_dialog_ && !HasStyle(ES_WANTRETURN)) return;
-    ReplaceSelection("\r\n", true);
+    ReplaceSelection("\r\n");
 }
 
 void EditControl::Backspace() {
     if (IsReadOnly()) return;
     const size_t caret = text_.Caret();
     if (!text_.HasSelection()) text_.Select(text_.Previous(caret), caret);
-    ReplaceSelection({}, true);
+    ReplaceSelection({});
 }

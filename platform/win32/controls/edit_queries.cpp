@@ -10,7 +10,6 @@ LRESULT EditControl::HandleQuery(UINT message, WPARAM wParam, LPARAM lParam) {
         case EM_SETSEL: SetSelection(wParam, lParam); return 1;
         case EM_SCROLLCARET: ScrollToCaret(); return 1;
         case EM_LINESCROLL: return ScrollBy(static_cast<int>(wParam), static_cast<int>(lParam));
-        case EM_GETMODIFY: return modified_;
         case EM_GETLIMITTEXT: return static_cast<LRESULT>(static_cast<LONG>(limit_));
         case EM_GETLINECOUNT: return static_cast<LRESULT>(lines_.Count());
         case EM_GETFIRSTVISIBLELINE: return static_cast<LRESULT>(multi_line_ ? first_line_ : first_char_);

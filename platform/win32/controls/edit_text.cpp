@@ -22,64 +22,18 @@ void EditText::Select(size_t anchor, size_t caret) {
 void EditText::Assign(std::string_view text) {
     text_.assign(text);
     anchor_ = caret_ = 0;
-    undo_text_.clear();
-    undo_inserted_ = 0;
 }
 
-void EditText::Replace(std::string_view replacement, bool can_undo) {
+void EditText::Replace(std::string_view replacement) {
     const size_t start = SelectionStart();
-    const size_t end = SelectionEnd();
-    if (can_undo) {
-        if (end > start) RememberDeletion(start, end);
-        if (!replacement.empty()) RememberInsertion(start, replacement.size());
-    } else {
-        undo_text_.clear();
-        undo_inserted_ = 0;
-    }
-    text_.replace(start, end - start, replacement);
+    text_.replace(start, SelectionEnd() - start, replacement);
     anchor_ = caret_ = start + replacement.size();
 }
 
 void EditText::CutBeforeCaret(size_t count) {
     count = std::min(count, caret_);
-    undo_inserted_ -= std::min(count, undo_inserted_);
     text_.erase(caret_ - count, count);
     anchor_ = caret_ -= count;
-}
-
-void EditText::RememberDeletion(size_t start, size_t end) {
-    const bool pure = undo_inserted_ == 0 && !undo_text_.empty();
-    if (pure && start == undo_position_) {
-        undo_text_.append(text_, start, end - start);
-    } else if (pure && end == undo_position_) {
-        undo_text_.insert(0, text_, start, end - start);
-    } else {
-        undo_text_.assign(text_, start, end - start);
-    }
-    undo_position_ = start;
-    undo_inserted_ = 0;
-}
-
-void EditText::RememberInsertion(size_t start, size_t count) {
-    const bool goes_on =
-        (undo_inserted_ != 0 || !undo_text_.empty()) && start == undo_position_ + undo_inserted_;
-    if (!goes_on) {
-        undo_text_.clear();
-        undo_position_ = start;
-        undo_inserted_ = 0;
-    }
-    undo_inserted_ += count;
-}
-
-bool EditText::Undo() {
-    if (undo_inserted_ == 0 && undo_text_.empty()) return false;
-    const std::string removed = text_.substr(undo_position_, undo_inserted_);
-    text_.replace(undo_position_, undo_inserted_, undo_text_);
-    anchor_ = undo_position_;
-    caret_ = undo_position_ + undo_text_.size();
-    undo_inserted_ = undo_text_.size();
-    undo_text_ = removed;
-    return true;
 }
 
 size_t EditText::LineEndAt(size_t position) const {

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-// The text of an edit control with its selection and the last change. It knows no window.
+// The text of an edit control with its selection. It knows no window.
 //
 // Positions count bytes from 0. A line ends at CR LF, at LF or at CR CR LF; with `lines` false such bytes are
 // characters like any other.
@@ -25,16 +25,12 @@ public:
     // Positions behind the end stand for the end.
     void Select(size_t anchor, size_t caret);
 
-    // Replaces everything; the caret stands at the start and nothing can be undone.
+    // Replaces everything; the caret stands at the start.
     void Assign(std::string_view text);
-    // Replaces the selection; the caret stands behind what came. What is typed or deleted in one go is one
-    // change to be undone. Without `can_undo` nothing is.
-    void Replace(std::string_view replacement, bool can_undo);
+    // Replaces the selection; the caret stands behind what came.
+    void Replace(std::string_view replacement);
     // Takes `count` bytes that the last replacement put before the caret away again.
     void CutBeforeCaret(size_t count);
-    // Undoes the last change, selects what came back, and makes this the last change. False when there is
-    // none.
-    bool Undo();
 
     // Neighbours of a position; a line end counts as one step.
     size_t Next(size_t position) const;
@@ -48,16 +44,9 @@ public:
 
 private:
     size_t LineEndBefore(size_t position) const;
-    void RememberDeletion(size_t start, size_t end);
-    void RememberInsertion(size_t start, size_t count);
 
     bool lines_;
     std::string text_;
     size_t anchor_ = 0;
     size_t caret_ = 0;
-
-    // To undo: `undo_inserted_` bytes at `undo_position_` become `undo_text_`.
-    std::string undo_text_;
-    size_t undo_position_ = 0;
-    size_t undo_inserted_ = 0;
 };

@@ -167,11 +167,6 @@
 #define WM_MOUSELAST 0x020Au
 #define WM_PARENTNOTIFY 0x0210u
 #define WM_CAPTURECHANGED 0x0215u
-#define WM_CUT 0x0300u
-#define WM_COPY 0x0301u
-#define WM_PASTE 0x0302u
-#define WM_CLEAR 0x0303u
-#define WM_UNDO 0x0304u
 #define WM_USER 0x0400u
 #define WM_APP 0x8000u
 #define DM_GETDEFID (WM_USER + 0u)

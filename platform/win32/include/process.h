@@ -4,7 +4,6 @@
 
 // Threads of the run-time library.
 
-
 extern "C" {
 
 typedef unsigned(WINAPI* _beginthreadex_proc_type)(void*);

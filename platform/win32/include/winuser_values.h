@@ -93,7 +93,6 @@
 #define RDW_UPDATENOW 0x100u
 #define RDW_FRAME 0x400u
 
-
 #define PM_NOREMOVE 0x0u
 #define PM_REMOVE 0x1u
 

@@ -1,13 +1,13 @@
 #include "button.h"
 
 #include "button_paint.h"
-#include "control.h"
+#include "text_control.h"
 
 namespace {
 
-class Button : public Control {
+class Button : public LabelControl {
 public:
-    explicit Button(HWND window) : Control(window) {}
+    explicit Button(HWND window) : LabelControl(window) {}
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
 
 private:
@@ -29,7 +29,6 @@ private:
     LRESULT HandleState(UINT message, WPARAM wParam, LPARAM lParam);
     void Paint();
 
-    HFONT font_ = nullptr;
     LRESULT state_ = BST_UNCHECKED;  // BST_CHECKED, BST_PUSHED, BST_FOCUS
     bool held_ = false;              // by the mouse or the space bar, even while the mouse is outside
 };
@@ -38,19 +37,7 @@ LRESULT Button::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_GETDLGCODE: return DialogCode();
         case WM_NCHITTEST: return Type() == BS_GROUPBOX ? HTTRANSPARENT : Default(message, wParam, lParam);
-        case WM_ERASEBKGND: return 1;
         case WM_PAINT: Paint(); return 0;
-        case WM_ENABLE: RedrawNow(); return 0;
-        case WM_SETTEXT: {
-            const LRESULT result = Default(message, wParam, lParam);
-            RedrawNow();
-            return result;
-        }
-        case WM_GETFONT: return reinterpret_cast<LRESULT>(font_);
-        case WM_SETFONT:
-            font_ = reinterpret_cast<HFONT>(wParam);
-            if (lParam) Redraw();
-            return 0;
         case WM_SETFOCUS: SetFocusState(true); return 0;
         case WM_KILLFOCUS: SetFocusState(false); return 0;
         case WM_KEYDOWN:
@@ -95,7 +82,7 @@ LRESULT Button::HandleState(UINT message, WPARAM wParam, LPARAM lParam) {
         case BM_SETSTATE: SetPushed(wParam != 0); return 0;
         case BM_SETSTYLE: SetType(wParam, LOWORD(lParam) != 0); return 0;
         case BM_CLICK: Click(); return 0;
-        default: return Default(message, wParam, lParam);
+        default: return LabelControl::Handle(message, wParam, lParam);
     }
 }
 
@@ -173,10 +160,9 @@ void Button::SetType(WPARAM type, bool redraw) {
 }
 
 void Button::Paint() {
-    PAINTSTRUCT paint = {};
-    const HDC dc = BeginPaint(Window(), &paint);
+    const PaintContext context(Window(), font_);
+    const HDC dc = context.Get();
     if (!dc) return;
-    const HGDIOBJ former = font_ ? SelectObject(dc, font_) : nullptr;
     const bool push = Type() == BS_PUSHBUTTON || Type() == BS_DEFPUSHBUTTON;
     ButtonLook look = {};
     look.area = ClientArea();
@@ -194,8 +180,6 @@ void Button::Paint() {
     } else {
         PaintGroupBox(dc, look);
     }
-    if (former) SelectObject(dc, former);
-    EndPaint(Window(), &paint);
 }
 
 }  // namespace

@@ -129,12 +129,7 @@ LRESULT ComboBox::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             return TextControl::Handle(message, wParam, lParam);
         case WM_NCPAINT:
         case WM_ERASEBKGND: return 1;
-        case WM_PAINT: {
-            PAINTSTRUCT paint = {};
-            Paint(BeginPaint(Window(), &paint));
-            EndPaint(Window(), &paint);
-            return 0;
-        }
+        case WM_PAINT: Paint(); return 0;
         case WM_GETDLGCODE: {
             const auto* const key = reinterpret_cast<const MSG*>(lParam);
             const bool leave =
@@ -265,8 +260,10 @@ std::string ComboBox::TextOfEdit() const {
     return text;
 }
 
-void ComboBox::Paint(HDC dc) {
-    const HGDIOBJ former = font_ ? SelectObject(dc, font_) : nullptr;
+void ComboBox::Paint() {
+    const PaintContext context(Window(), font_);
+    const HDC dc = context.Get();
+    if (!dc) return;
     const HBRUSH background = BackgroundBrush(Enabled() ? WM_CTLCOLOREDIT : WM_CTLCOLORSTATIC, dc);
     RECT client = ClientArea();
     FillRect(dc, &client, background);
@@ -294,7 +291,6 @@ void ComboBox::Paint(HDC dc) {
                   DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
         if (marked) DrawFocusRect(dc, &field);
     }
-    if (former) SelectObject(dc, former);
 }
 
 void RegisterComboBoxClass() {

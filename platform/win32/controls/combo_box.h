@@ -42,7 +42,7 @@ private:
     bool KeyDown(WPARAM key);
     void EditNotification(int code);
     std::string SelectedText() const;
-    void Paint(HDC dc);
+    void Paint();
 
     HWND list_ = nullptr;
     HWND edit_ = nullptr;

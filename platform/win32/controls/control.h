@@ -61,6 +61,29 @@ private:
     HGDIOBJ former_ = nullptr;
 };
 
+// A context of what a window has to paint, with a font in it; null where there is none. A null font stands
+// for the one of a new context.
+class PaintContext {
+public:
+    PaintContext(HWND window, HFONT font) : window_(window), dc_(BeginPaint(window, &paint_)) {
+        if (dc_ && font) former_ = SelectObject(dc_, font);
+    }
+    ~PaintContext() {
+        if (!dc_) return;
+        if (former_) SelectObject(dc_, former_);
+        EndPaint(window_, &paint_);
+    }
+    PaintContext(const PaintContext&) = delete;
+    PaintContext& operator=(const PaintContext&) = delete;
+    HDC Get() const { return dc_; }
+
+private:
+    HWND window_;
+    PAINTSTRUCT paint_ = {};
+    HDC dc_;
+    HGDIOBJ former_ = nullptr;
+};
+
 // The window procedure of the class that `Kind::Handle` answers for. A notification may destroy the window
 // while its object still works: every message holds on to the object until it is done.
 template <class Kind>

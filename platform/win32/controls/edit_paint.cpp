@@ -16,10 +16,9 @@ HBRUSH EditControl::Background(HDC dc) {
 }
 
 void EditControl::Paint() {
-    PAINTSTRUCT paint = {};
-    const HDC dc = BeginPaint(Window(), &paint);
+    const PaintContext context(Window(), font_);
+    const HDC dc = context.Get();
     if (!dc) return;
-    const HGDIOBJ former = font_ ? SelectObject(dc, font_) : nullptr;
     const RECT area = ClientArea();
     FillRect(dc, &area, Background(dc));
     if (border_) FrameRect(dc, &area, GetSysColorBrush(COLOR_WINDOWFRAME));
@@ -35,8 +34,6 @@ void EditControl::Paint() {
         PaintLine(dc, 0);
     }
     RestoreDC(dc, saved);
-    if (former) SelectObject(dc, former);
-    EndPaint(Window(), &paint);
 }
 
 // A line in runs that are selected, or not.

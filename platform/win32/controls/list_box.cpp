@@ -23,12 +23,7 @@ LRESULT ListBox::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             return 0;
         case WM_SIZE: FitScrollBar(); return 0;
         case WM_ERASEBKGND: return 1;
-        case WM_PAINT: {
-            PAINTSTRUCT paint = {};
-            Paint(BeginPaint(Window(), &paint));
-            EndPaint(Window(), &paint);
-            return 0;
-        }
+        case WM_PAINT: Paint(); return 0;
         case WM_VSCROLL: Scrolled(LOWORD(wParam), HIWORD(wParam)); return 0;
         case WM_GETDLGCODE: return DLGC_WANTARROWS | DLGC_WANTCHARS;
         default: return TextControl::Handle(message, wParam, lParam);
@@ -262,8 +257,10 @@ void ListBox::Resize() {
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void ListBox::Paint(HDC dc) {
-    const HGDIOBJ former = font_ ? SelectObject(dc, font_) : nullptr;
+void ListBox::Paint() {
+    const PaintContext context(Window(), font_);
+    const HDC dc = context.Get();
+    if (!dc) return;
     const HBRUSH background = BackgroundBrush(WM_CTLCOLORLISTBOX, dc);
     const RECT client = ClientArea();
     FillRect(dc, &client, background);
@@ -279,7 +276,6 @@ void ListBox::Paint(HDC dc) {
         if (selected && Focused()) DrawFocusRect(dc, &row);
         OffsetRect(&row, 0, row_height_);
     }
-    if (former) SelectObject(dc, former);
 }
 
 void RegisterListBoxClass() {

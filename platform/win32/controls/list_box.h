@@ -41,7 +41,7 @@ private:
     void FitScrollBar();
     void Scrolled(WPARAM code, int thumb);
     void Resize();
-    void Paint(HDC dc);
+    void Paint();
 
     ListItems items_{false};
     int selected_ = -1;

@@ -1,40 +1,26 @@
 #include "static_text.h"
 
 #include "button_paint.h"
-#include "control.h"
+#include "text_control.h"
 
 namespace {
 
-class StaticText : public Control {
+class StaticText : public LabelControl {
 public:
-    explicit StaticText(HWND window) : Control(window) {}
+    explicit StaticText(HWND window) : LabelControl(window) {}
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
 
 private:
     UINT TextFormat() const;
     void Paint();
-
-    HFONT font_ = nullptr;
 };
 
 LRESULT StaticText::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_GETDLGCODE: return DLGC_STATIC;
         case WM_NCHITTEST: return HTTRANSPARENT;
-        case WM_ERASEBKGND: return 1;
         case WM_PAINT: Paint(); return 0;
-        case WM_ENABLE: RedrawNow(); return 0;
-        case WM_SETTEXT: {
-            const LRESULT result = Default(message, wParam, lParam);
-            RedrawNow();
-            return result;
-        }
-        case WM_GETFONT: return reinterpret_cast<LRESULT>(font_);
-        case WM_SETFONT:
-            font_ = reinterpret_cast<HFONT>(wParam);
-            if (lParam) Redraw();
-            return 0;
-        default: return Default(message, wParam, lParam);
+        default: return LabelControl::Handle(message, wParam, lParam);
     }
 }
 
@@ -51,10 +37,9 @@ UINT StaticText::TextFormat() const {
 }
 
 void StaticText::Paint() {
-    PAINTSTRUCT paint = {};
-    const HDC dc = BeginPaint(Window(), &paint);
+    const PaintContext context(Window(), font_);
+    const HDC dc = context.Get();
     if (!dc) return;
-    const HGDIOBJ former = font_ ? SelectObject(dc, font_) : nullptr;
     RECT area = ClientArea();
     FillRect(dc, &area, BackgroundBrush(WM_CTLCOLORSTATIC, dc));
     const std::string text = WindowText();
@@ -63,8 +48,6 @@ void StaticText::Paint() {
     } else {
         PaintGreyText(dc, text, area, TextFormat());
     }
-    if (former) SelectObject(dc, former);
-    EndPaint(Window(), &paint);
 }
 
 }  // namespace

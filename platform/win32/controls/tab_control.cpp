@@ -35,7 +35,7 @@ private:
     RECT TabRect(int index) const;
     int TabAt(POINT point) const;
     bool KeyDown(WPARAM key);
-    void Paint(HDC dc);
+    void Paint();
 
     std::vector<std::string> tabs_;
     int selected_ = -1;
@@ -139,18 +139,15 @@ LRESULT TabControl::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_KILLFOCUS: Redraw(); return 0;
         case WM_GETDLGCODE: return DLGC_WANTARROWS | DLGC_WANTCHARS;
         case WM_ERASEBKGND: return 1;
-        case WM_PAINT: {
-            PAINTSTRUCT paint = {};
-            Paint(BeginPaint(Window(), &paint));
-            EndPaint(Window(), &paint);
-            return 0;
-        }
+        case WM_PAINT: Paint(); return 0;
         default: return TextControl::Handle(message, wParam, lParam);
     }
 }
 
-void TabControl::Paint(HDC dc) {
-    const HGDIOBJ former = font_ ? SelectObject(dc, font_) : nullptr;
+void TabControl::Paint() {
+    const PaintContext context(Window(), font_);
+    const HDC dc = context.Get();
+    if (!dc) return;
     const HBRUSH face = GetSysColorBrush(COLOR_BTNFACE);
     const RECT client = ClientArea();
     FillRect(dc, &client, face);
@@ -175,7 +172,6 @@ void TabControl::Paint(HDC dc) {
         InflateRect(&rect, -kTabMargin / 2, -3);
         DrawFocusRect(dc, &rect);
     }
-    if (former) SelectObject(dc, former);
 }
 
 }  // namespace

@@ -12,6 +12,19 @@ LRESULT TextControl::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     }
 }
 
+LRESULT LabelControl::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_ERASEBKGND: return 1;
+        case WM_ENABLE: RedrawNow(); return 0;
+        case WM_SETTEXT: {
+            const LRESULT result = Default(message, wParam, lParam);
+            RedrawNow();
+            return result;
+        }
+        default: return TextControl::Handle(message, wParam, lParam);
+    }
+}
+
 int TextControl::Width(const char* text, size_t length) const {
     const FontContext context(Window(), font_);
     SIZE size = {};

@@ -19,3 +19,13 @@ protected:
 
     HFONT font_ = nullptr;
 };
+
+// One whose text is the window's own. What changes it is seen at once.
+class LabelControl : public TextControl {
+protected:
+    using TextControl::TextControl;
+    ~LabelControl() = default;
+
+    // A new text, enabling and the font; everything else by default.
+    LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
+};

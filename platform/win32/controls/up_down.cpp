@@ -170,12 +170,11 @@ void UpDown::Show(Arrow pressed) {
 }
 
 void UpDown::Paint() {
-    PAINTSTRUCT paint = {};
-    const HDC dc = BeginPaint(Window(), &paint);
+    const PaintContext context(Window(), nullptr);
+    const HDC dc = context.Get();
     if (!dc) return;
     PaintArrow(dc, Arrow::kUp);
     PaintArrow(dc, Arrow::kDown);
-    EndPaint(Window(), &paint);
 }
 
 void UpDown::PaintArrow(HDC dc, Arrow arrow) const {

@@ -108,7 +108,7 @@ void PumpAll() {
 // Takes the picture of the Help dialog from inside, and closes it.
 class PictureOfHelp : public CHelpDlg {
 public:
-    PictureOfHelp(const char* text, const char* file) : CHelpDlg(text), file_(file) {}
+    PictureOfHelp(const char* text, const char* file) : file_(file) { helpText = text; }
 
 protected:
     BOOL OnInitDialog() override {

@@ -26,7 +26,7 @@ ON_WM_SIZE()
 ON_WM_MOVE()
 END_MESSAGE_MAP()
 
-CHelpDlg::CHelpDlg(const char* text) : CDialog(kHelpDialog, nullptr), help_text_(text) {}
+CHelpDlg::CHelpDlg(CWnd* parent) : CDialog(kHelpDialog, parent) {}
 
 void CHelpDlg::DoDataExchange(CDataExchange* exchange) {
     CDialog::DoDataExchange(exchange);
@@ -34,19 +34,21 @@ void CHelpDlg::DoDataExchange(CDataExchange* exchange) {
 }
 
 BOOL CHelpDlg::OnInitDialog() {
+    initialising = 1;
     CDialog::OnInitDialog();
     ReadLayout();
     edit_.SendMessage(EM_FMTLINES, TRUE, 0);
     const int stop = kTabStop;
     edit_.SendMessage(EM_SETTABSTOPS, 1, reinterpret_cast<LPARAM>(&stop));
-    if (help_text_) {
-        edit_.SetWindowText(help_text_);
+    if (helpText) {
+        edit_.SetWindowText(helpText);
         edit_.SendMessage(EM_SETSEL, kTextEnd, kTextEnd);
         edit_.SendMessage(EM_SCROLLCARET, 0, 0);
     }
     const RECT place = LastPlace();
     if (place.left < place.right && place.top < place.bottom) MoveWindow(&place, TRUE);
-    ready_ = true;
+    ready = 1;
+    initialising = 0;
     return TRUE;
 }
 
@@ -68,7 +70,7 @@ void CHelpDlg::ReadLayout() {
 }
 
 void CHelpDlg::RememberPlace() {
-    if (!ready_) return;
+    if (initialising || !ready) return;
     RECT place = {};
     GetWindowRect(&place);
     const std::lock_guard lock(help_rect_mutex);
@@ -91,6 +93,7 @@ void CHelpDlg::OnMove(int x, int y) {
 }
 
 void ShowHelp(const char* text) {
-    CHelpDlg dialog(text);
+    CHelpDlg dialog;
+    dialog.helpText = text;
     dialog.DoModal();
 }

@@ -6,8 +6,10 @@
 // left, for as long as the library stays loaded.
 class CHelpDlg : public CDialog {
 public:
-    // `text` must outlive the dialog.
-    explicit CHelpDlg(const char* text);
+    explicit CHelpDlg(CWnd* parent = nullptr);
+
+    // What is shown; it must outlive the dialog. Null shows an empty field.
+    const char* helpText = nullptr;
 
 protected:
     void DoDataExchange(CDataExchange* exchange) override;
@@ -22,8 +24,9 @@ private:
     void RememberPlace();
 
     CEdit edit_;
-    const char* help_text_;
-    bool ready_ = false;
+    // While the first is clear and the second set, sizes and places are the user's, and remembered.
+    int initialising = 0;
+    int ready = 0;
     int edit_left_ = 0;
     int edit_top_ = 0;
     int edit_right_gap_ = 0;

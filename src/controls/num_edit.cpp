@@ -17,9 +17,6 @@ ON_WM_SETFOCUS()
 ON_MESSAGE(WM_SETFONT, &WS_NumEdit::OnSetFont)
 END_MESSAGE_MAP()
 
-WS_NumEdit::WS_NumEdit(NumberValue& number, const char* class_name, const void* value)
-    : number_(number), class_name_(class_name), value_(value) {}
-
 BOOL WS_NumEdit::RegisterNumEditClass() {
     RegisterControlClass(class_name_, &WindowProcedure, reinterpret_cast<HBRUSH>(COLOR_SCROLLBAR + 1));
     return TRUE;
@@ -98,10 +95,6 @@ BOOL WS_NumEdit::OwnsWindow(CWnd* window) {
     return window == this || window == &field_ || window == &spin_;
 }
 
-void WS_NumEdit::Refresh() {
-    field_.ShowValue();
-}
-
 void WS_NumEdit::OnSetFocus(CWnd* from) {
     CWnd::OnSetFocus(from);
     field_.SetFocus();
@@ -111,20 +104,4 @@ void WS_NumEdit::OnSetFocus(CWnd* from) {
 LRESULT WS_NumEdit::OnSetFont(WPARAM font, LPARAM redraw) {
     if (created_) field_.SendMessage(WM_SETFONT, font, redraw);
     return 0;
-}
-
-WS_IntEdit::WS_IntEdit(IntNumber& number)
-    : WS_NumEdit(number, "WS_IntEdit", &number.Value()), number_(number) {}
-
-void WS_IntEdit::SetNumber(int number) {
-    number_.SetNumber(number);
-    Refresh();
-}
-
-WS_FloatEdit::WS_FloatEdit(FloatNumber& number)
-    : WS_NumEdit(number, "WS_FloatEdit", &number.Value()), number_(number) {}
-
-void WS_FloatEdit::SetNumber(float number) {
-    number_.SetNumber(number);
-    Refresh();
 }

@@ -78,21 +78,26 @@ public:
     void NotifyValue();
 
     virtual BOOL OwnsWindow(CWnd* window);
-    virtual void Refresh();
-    virtual void Step(int n) { number_.Step(n); }
-    virtual void Clamp() { number_.Clamp(); }
-    virtual BOOL SetText(char* text, BOOL final) { return number_.SetText(text, final != FALSE); }
-    virtual void FormatValue(char* dest) { number_.FormatValue(dest); }
-    virtual BOOL ParseText(const char* text, int length) { return number_.ParseText(text, length); }
-    virtual void Remember() { number_.Remember(); }
-    virtual BOOL IsRemembered() { return number_.IsRemembered(); }
+
+    // What NumberValue documents, for the number of the field. Refresh shows it.
+    virtual void Refresh() = 0;
+    virtual void Step(int n) = 0;
+    virtual void Clamp() = 0;
+    virtual BOOL SetText(char* text, BOOL final) = 0;
+    virtual void FormatValue(char* dest) = 0;
+    virtual BOOL ParseText(const char* text, int length) = 0;
+    virtual void Remember() = 0;
+    virtual BOOL IsRemembered() = 0;
 
     CWnd& FieldWindow() { return field_; }
     void SetHasFocus(bool has_focus) { has_focus_ = has_focus; }
     bool HasFocus() const { return has_focus_; }
 
 protected:
-    WS_NumEdit(NumberValue& number, const char* class_name, const void* value);
+    // `value` points to the number, for the parent that is notified.
+    WS_NumEdit(const char* class_name, const void* value) : class_name_(class_name), value_(value) {}
+
+    void ShowValue() { field_.ShowValue(); }
 
     void PostNcDestroy() override;
     afx_msg void OnSetFocus(CWnd* from);
@@ -105,7 +110,6 @@ private:
     void MakeChildren(const RECT& field, const RECT& spin);
     void MakeChildrenInClient();
 
-    NumberValue& number_;
     const char* class_name_;
     const void* value_;
     bool created_ = false;
@@ -116,29 +120,42 @@ private:
     WPARAM notify_word_ = 0;
 };
 
-// A field for a 32-bit integer. The number is the caller's and must outlive the field.
-class WS_IntEdit : public WS_NumEdit {
+// A field over one kind of number, which is the caller's and must outlive the field.
+template <class Number, class Value>
+class NumEditOver : public WS_NumEdit {
 public:
-    explicit WS_IntEdit(IntNumber& number);
+    // As the number does. SetRange does not clamp.
+    void SetRange(Value minimum, Value maximum, Value step) { number_.SetRange(minimum, maximum, step); }
+    void SetNumber(Value number) {
+        number_.SetNumber(number);
+        Refresh();
+    }
 
-    // Does not clamp.
-    void SetRange(int minimum, int maximum, int step) { number_.SetRange(minimum, maximum, step); }
-    void SetNumber(int number);
+    void Refresh() override { ShowValue(); }
+    void Step(int n) override { number_.Step(n); }
+    void Clamp() override { number_.Clamp(); }
+    BOOL SetText(char* text, BOOL final) override { return number_.SetText(text, final != FALSE); }
+    void FormatValue(char* dest) override { number_.FormatValue(dest); }
+    BOOL ParseText(const char* text, int length) override { return number_.ParseText(text, length); }
+    void Remember() override { number_.Remember(); }
+    BOOL IsRemembered() override { return number_.IsRemembered(); }
+
+protected:
+    NumEditOver(Number& number, const char* class_name)
+        : WS_NumEdit(class_name, &number.Value()), number_(number) {}
 
 private:
-    IntNumber& number_;
+    Number& number_;
 };
 
-// A field for a 32-bit float. The number is the caller's and must outlive the field.
-class WS_FloatEdit : public WS_NumEdit {
+// A field for a 32-bit integer.
+class WS_IntEdit : public NumEditOver<IntNumber, int> {
 public:
-    explicit WS_FloatEdit(FloatNumber& number);
+    explicit WS_IntEdit(IntNumber& number) : NumEditOver(number, "WS_IntEdit") {}
+};
 
-    // Does not clamp.
-    void SetRange(float minimum, float maximum, float step) { number_.SetRange(minimum, maximum, step); }
-    // Rounds to three decimals.
-    void SetNumber(float number);
-
-private:
-    FloatNumber& number_;
+// A field for a 32-bit float.
+class WS_FloatEdit : public NumEditOver<FloatNumber, float> {
+public:
+    explicit WS_FloatEdit(FloatNumber& number) : NumEditOver(number, "WS_FloatEdit") {}
 };

@@ -14,7 +14,7 @@ int SliderGeometry::PositionAt(int x, const SliderRange& range) const {
     if (right_ <= left_) return range.minimum;
     const double place = std::min(std::max(x, left_), right_) - left_;
     const double span = static_cast<double>(range.maximum) - range.minimum;
-    return static_cast<int>(std::trunc(place / (right_ - left_) * span + 0.5)) + range.minimum;
+    return static_cast<int>(std::trunc(place / (right_ - left_) * span + 0.5) + range.minimum);
 }
 
 bool SliderGeometry::Hits(POINT point, const SliderRange& range) const {

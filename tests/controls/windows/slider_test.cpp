@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <vector>
 
 #include "controls/slider.h"
@@ -20,6 +21,7 @@ TEST(SliderGeometry, PlacesOfPositionsAndBack) {
     EXPECT_EQ(geometry.PositionAt(-50, {0, 1, 100}), 1);
     EXPECT_EQ(geometry.PositionAt(500, {0, 1, 100}), 100);
     EXPECT_EQ(geometry.PositionAt(51, {0, 1, 100}), 51);
+    EXPECT_EQ(geometry.PositionAt(500, {0, INT_MIN, INT_MAX}), INT_MAX);
     EXPECT_EQ(SliderGeometry(2, 5).PositionAt(1, {0, 1, 100}), 1);
 }
 

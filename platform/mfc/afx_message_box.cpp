@@ -3,6 +3,9 @@
 #include <string>
 #include <string_view>
 
+#include "afx_thread.h"
+#include "afx_window.h"
+
 #ifndef _WIN32
 #include <dlfcn.h>
 #endif
@@ -33,10 +36,17 @@ std::string ModuleName() {
     return std::string(name.substr(0, name.rfind('.')));
 }
 
+// A question stands over what the thread shows, which must not go while it waits.
+HWND QuestionOwner() {
+    if (const HWND active = ::GetActiveWindow()) return active;
+    const CWnd* const main = AfxGetMainWnd();
+    return main ? ::GetAncestor(main->GetSafeHwnd(), GA_ROOT) : nullptr;
+}
+
 }  // namespace
 
 int AfxMessageBox(LPCSTR text, UINT type, UINT) {
-    return MessageBoxA(nullptr, text, AfxGetAppName(), type);
+    return MessageBoxA(QuestionOwner(), text, AfxGetAppName(), type);
 }
 
 LPCSTR AfxGetAppName() {

@@ -89,6 +89,3 @@
     AFX_MAP_WINDOW(WM_VSCROLL, OnVScroll, (self->*handler)(LOWORD(m.wParam), HIWORD(m.wParam), nullptr))
 #define ON_WM_HELPINFO() \
     AFX_MAP_WINDOW(WM_HELP, OnHelpInfo, *m.result = (self->*handler)(reinterpret_cast<HELPINFO*>(m.lParam)))
-#define ON_WM_CREATE()                  \
-    AFX_MAP_WINDOW(WM_CREATE, OnCreate, \
-                   *m.result = (self->*handler)(reinterpret_cast<CREATESTRUCT*>(m.lParam)))

@@ -14,7 +14,6 @@ public:
 
     INT_PTR GetSize() const { return m_nSize; }
     INT_PTR GetCount() const { return m_nSize; }
-    INT_PTR GetUpperBound() const { return m_nSize - 1; }
     bool IsEmpty() const { return m_nSize == 0; }
 
     // New entries are null. `growBy` is the number of entries by which the array grows from now on; 0 leaves

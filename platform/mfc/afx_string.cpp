@@ -11,10 +11,6 @@ char ToLower(char ch) {
     return ch >= 'A' && ch <= 'Z' ? static_cast<char>(ch + ('a' - 'A')) : ch;
 }
 
-char ToUpper(char ch) {
-    return ch >= 'a' && ch <= 'z' ? static_cast<char>(ch - ('a' - 'A')) : ch;
-}
-
 // In a text of its own, as the arguments may point into the string that is to take it.
 std::string Formatted(const char* format, va_list arguments) {
     if (!format) AfxThrowInvalidArgException();
@@ -120,9 +116,10 @@ CString& CString::MakeLower() {
     return *this;
 }
 
-CString& CString::MakeUpper() {
-    std::transform(text_.begin(), text_.end(), text_.begin(), ToUpper);
-    return *this;
+int CString::Delete(int index, int count) {
+    const size_t first = static_cast<size_t>(std::max(index, 0));
+    if (first < text_.size()) text_.erase(first, static_cast<size_t>(std::max(count, 0)));
+    return GetLength();
 }
 
 int CString::Replace(const char* old, const char* with) {

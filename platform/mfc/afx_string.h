@@ -42,7 +42,6 @@ public:
     void Append(const CString& tail) { text_ += tail.text_; }
     void Append(const char* tail) { text_ += OrEmpty(tail); }
     void Append(const char* tail, int length);
-    void AppendChar(char ch) { text_ += ch; }
 
     // As printf; the arguments may point into this string. Raise for a null format and one that can't be
     // carried out.
@@ -79,7 +78,8 @@ public:
     CString& TrimRight(const char* set);
 
     CString& MakeLower();
-    CString& MakeUpper();
+    // Takes bytes out, as far as there are some, and tells the length that is left.
+    int Delete(int index, int count = 1);
     // Goes on behind each replacement. The result is the number of them; an empty `old` has none.
     int Replace(const char* old, const char* with);
 

@@ -15,7 +15,7 @@ void CStringArray::RemoveAt(INT_PTR index, INT_PTR count) {
 
 INT_PTR CStringArray::Add(const CString& element) {
     strings_.push_back(element);
-    return GetUpperBound();
+    return GetSize() - 1;
 }
 
 void CStringArray::InsertAt(INT_PTR index, const CString& element) {

@@ -16,7 +16,6 @@ public:
 
     INT_PTR GetSize() const { return static_cast<INT_PTR>(strings_.size()); }
     INT_PTR GetCount() const { return GetSize(); }
-    INT_PTR GetUpperBound() const { return GetSize() - 1; }
     bool IsEmpty() const { return strings_.empty(); }
 
     // New entries are empty strings. How much the array takes beyond its size is its own affair.

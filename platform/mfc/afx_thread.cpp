@@ -30,13 +30,16 @@ unsigned WINAPI ThreadEntry(void* argument) {
     AfxEndThread(static_cast<UINT>(exitCode));
 }
 
-BOOL Pump(CWinThread* thread, MSG& message) {
-    if (!::GetMessageA(&message, nullptr, 0, 0)) return FALSE;
-    if (!thread || !thread->PreTranslateMessage(&message)) {
+BOOL Pump(CWinThread* thread) {
+    MSG message = {};
+    const BOOL goes_on = ::GetMessageA(&message, nullptr, 0, 0);
+    if (goes_on && (!thread || !thread->PreTranslateMessage(&message))) {
         ::TranslateMessage(&message);
         ::DispatchMessageA(&message);
     }
-    return TRUE;
+    // Handlers may have pumped others meanwhile.
+    AfxThreadState().pumped = message;
+    return goes_on;
 }
 
 }  // namespace
@@ -71,27 +74,28 @@ BOOL CWinThread::InitInstance() {
 }
 
 int CWinThread::Run() {
+    MSG next = {};
     bool idle = true;
     LONG count = 0;
     for (;;) {
-        while (idle && !::PeekMessageA(&m_msgCur, nullptr, 0, 0, PM_NOREMOVE))
+        while (idle && !::PeekMessageA(&next, nullptr, 0, 0, PM_NOREMOVE))
             if (!OnIdle(count++)) idle = false;
         do {
             if (!PumpMessage()) return ExitInstance();
-            if (IsIdleMessage(&m_msgCur)) {
+            if (IsIdleMessage(&AfxThreadState().pumped)) {
                 idle = true;
                 count = 0;
             }
-        } while (::PeekMessageA(&m_msgCur, nullptr, 0, 0, PM_NOREMOVE));
+        } while (::PeekMessageA(&next, nullptr, 0, 0, PM_NOREMOVE));
     }
 }
 
 int CWinThread::ExitInstance() {
-    return static_cast<int>(m_msgCur.wParam);
+    return static_cast<int>(AfxThreadState().pumped.wParam);
 }
 
 BOOL CWinThread::PumpMessage() {
-    return Pump(this, m_msgCur);
+    return Pump(this);
 }
 
 BOOL CWinThread::PreTranslateMessage(MSG* message) {
@@ -175,8 +179,7 @@ void AfxEndThread(UINT exitCode, BOOL deleteObject) {
 }
 
 BOOL AfxPumpMessage() {
-    MSG message = {};
-    return Pump(AfxGetThread(), message);
+    return Pump(AfxGetThread());
 }
 
 void AfxDeleteTemporaryObjects() {

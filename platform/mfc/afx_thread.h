@@ -38,16 +38,13 @@ public:
     HANDLE m_hThread = nullptr;
     DWORD m_nThreadID = 0;
 
-protected:
-    MSG m_msgCur = {};
-
 private:
     POINT m_lastMousePlace = {};
     UINT m_lastMouseMessage = 0;
 };
 
-// The application: one static object in a module. A program calls InitInstance and Run itself, or lets
-// AfxWinMain do so; a library's is called when it is loaded and unloaded.
+// The application: one static object in a module. A program calls InitInstance and Run itself. In a library
+// that links mfc_library, InitInstance is called at its loading and ExitInstance at its unloading.
 class CWinApp : public CWinThread {
 public:
     CWinApp();

@@ -34,6 +34,8 @@ struct AfxThreadData {
     // The object that the next window to be created belongs to, and the hook that waits for it.
     CWnd* creating = nullptr;
     HHOOK creationHook = nullptr;
+    // The message that came from the queue last.
+    MSG pumped = {};
     // The message that a window procedure is at, for Default.
     MSG current = {};
     AFX_MODULE_STATE* module = nullptr;

@@ -7,9 +7,13 @@
 
 const CWnd CWnd::wndTop(HWND_TOP);
 const CWnd CWnd::wndBottom(HWND_BOTTOM);
+const CWnd CWnd::wndTopMost(HWND_TOPMOST);
+const CWnd CWnd::wndNoTopMost(HWND_NOTOPMOST);
 
 CWnd::~CWnd() {
-    if (m_hWnd && this != &wndTop && this != &wndBottom) CWnd::DestroyWindow();
+    const bool is_place =
+        this == &wndTop || this == &wndBottom || this == &wndTopMost || this == &wndNoTopMost;
+    if (m_hWnd && !is_place) CWnd::DestroyWindow();
 }
 
 BOOL CWnd::Create(LPCSTR className, LPCSTR text, DWORD style, const RECT& rect, CWnd* parent, UINT id) {
@@ -29,11 +33,15 @@ BOOL CWnd::CreateEx(DWORD extendedStyle, LPCSTR className, LPCSTR text, DWORD st
 
 BOOL CWnd::DestroyWindow() {
     if (!m_hWnd) return FALSE;
-    const bool permanent = FromHandlePermanent(m_hWnd) == this;
-    const BOOL destroyed = ::DestroyWindow(m_hWnd);
-    // Usually WM_NCDESTROY has done this; another thread's window or a dead handle sent none.
-    if (permanent) Detach();
-    m_hWnd = nullptr;
+    const HWND window = m_hWnd;
+    if (FromHandlePermanent(window) != this) {
+        m_hWnd = nullptr;
+        return ::DestroyWindow(window);
+    }
+    const BOOL destroyed = ::DestroyWindow(window);
+    // Usually WM_NCDESTROY has let go of the window, and the object may have deleted itself. Another thread's
+    // window or a dead handle sent no message.
+    if (FromHandlePermanent(window) == this) Detach();
     return destroyed;
 }
 

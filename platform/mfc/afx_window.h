@@ -32,6 +32,8 @@ public:
 
     static const CWnd wndTop;
     static const CWnd wndBottom;
+    static const CWnd wndTopMost;
+    static const CWnd wndNoTopMost;
 
     // Null for null. A temporary object lives until this thread is idle.
     static CWnd* FromHandle(HWND window);
@@ -96,11 +98,10 @@ public:
     // Asks all permanent windows from the message's own up to `stop`, or to the top.
     static BOOL WalkPreTranslateTree(HWND stop, MSG* message);
 
+protected:
     // Every message of the window comes here.
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
     virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
-
-protected:
     virtual BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
     virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
     virtual BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result);
@@ -127,12 +128,12 @@ protected:
     afx_msg void OnMouseMove(UINT, CPoint) { Default(); }
     afx_msg void OnVScroll(UINT, UINT, CScrollBar*) { Default(); }
     afx_msg BOOL OnHelpInfo(HELPINFO*) { return static_cast<BOOL>(Default()); }
-    afx_msg int OnCreate(CREATESTRUCT*) { return static_cast<int>(Default()); }
 
     DECLARE_MESSAGE_MAP()
 
 private:
     friend class AfxTemporaryObjects;
+    friend LRESULT AfxCallWndProc(CWnd* object, UINT message, WPARAM wParam, LPARAM lParam);
 
     explicit CWnd(HWND window) : m_hWnd(window) {}
     BOOL ReflectToChild(HWND child, UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);

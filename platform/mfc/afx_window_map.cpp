@@ -56,9 +56,7 @@ HWND CWnd::Detach() {
     return window;
 }
 
-namespace {
-
-LRESULT CallWindowObject(CWnd* object, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT AfxCallWndProc(CWnd* object, UINT message, WPARAM wParam, LPARAM lParam) {
     AfxThreadData& state = AfxThreadState();
     MSG handled = {};
     handled.hwnd = object->m_hWnd;
@@ -71,13 +69,15 @@ LRESULT CallWindowObject(CWnd* object, UINT message, WPARAM wParam, LPARAM lPara
     return result;
 }
 
+namespace {
+
 // A dialog that nobody has placed or shown while it was set up goes to the middle of its owner.
 LRESULT InitDialog(CWnd* dialog, WPARAM wParam, LPARAM lParam) {
     const HWND window = dialog->m_hWnd;
     RECT before = {};
     GetWindowRect(window, &before);
     const bool was_visible = IsWindowVisible(window);
-    const LRESULT result = CallWindowObject(dialog, WM_INITDIALOG, wParam, lParam);
+    const LRESULT result = AfxCallWndProc(dialog, WM_INITDIALOG, wParam, lParam);
     if (was_visible || !IsWindow(window) || IsWindowVisible(window)) return result;
     if (GetWindowLongPtrA(window, GWL_STYLE) & WS_CHILD) return result;
     RECT after = {};
@@ -90,7 +90,7 @@ LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARA
     CWnd* const object = CWnd::FromHandlePermanent(window);
     if (!object) return ::DefWindowProcA(window, message, wParam, lParam);
     if (message == WM_INITDIALOG) return InitDialog(object, wParam, lParam);
-    return CallWindowObject(object, message, wParam, lParam);
+    return AfxCallWndProc(object, message, wParam, lParam);
 }
 
 // The window has its handle, but no message has come yet.

@@ -19,7 +19,6 @@ public:
     // IDOK or IDCANCEL.
     INT_PTR DoModal() override;
 
-    CString GetPathName() const { return m_path; }
     // Without its folder.
     CString GetFileName() const;
 

@@ -13,39 +13,6 @@
 
 namespace {
 
-TEST(SplitPath, CutsAtTheLastSeparatorAndDot) {
-    const std::pair<const char*, const char*> cases[] = {
-        {"c:\\d.x\\a.b.txt", "c:|\\d.x\\|a.b|.txt"}, {"dir\\", "|dir\\||"},   {"c:a", "c:||a|"},
-        {"\\\\srv\\sh\\a.b", "|\\\\srv\\sh\\|a|.b"}, {"d.e\\f", "|d.e\\|f|"}, {".x", "|||.x"},
-        {"\\first\\a/b.c", "|\\first\\a/|b|.c"},     {"a.", "||a|."},         {"", "|||"},
-    };
-    for (const auto& [path, expected] : cases) {
-        char drive[_MAX_DRIVE];
-        char dir[_MAX_DIR];
-        char name[_MAX_FNAME];
-        char ext[_MAX_EXT];
-        _splitpath(path, drive, dir, name, ext);
-        const std::string parts = std::string(drive) + "|" + dir + "|" + name + "|" + ext;
-        EXPECT_EQ(parts, expected) << path;
-    }
-}
-
-TEST(SplitPath, StaysWithinItsBuffers) {
-    const std::string longest(255, 'n');
-    const std::string ext = "." + std::string(254, 'e');
-    char name[_MAX_FNAME];
-    char gotExt[_MAX_EXT];
-    _splitpath((longest + ext).c_str(), nullptr, nullptr, name, gotExt);
-    EXPECT_EQ(name, longest);
-    EXPECT_EQ(gotExt, ext);
-    for (const std::string& path : {longest + "n" + ext, "n" + ext + "e", longest + "\\n.e"}) {
-        char drive[_MAX_DRIVE];
-        char dir[_MAX_DIR];
-        _splitpath(path.c_str(), drive, dir, name, gotExt);
-        EXPECT_EQ(std::string(name) + gotExt, "");
-    }
-}
-
 TEST(TextWithoutCase, ComparesAsSmallLetters) {
     EXPECT_EQ(_stricmp("AbC", "aBc"), 0);
     EXPECT_LT(_stricmp("ab", "abc"), 0);

@@ -159,10 +159,10 @@ HWND WINAPI CreateDialogIndirectParamA(HINSTANCE module, LPCDLGTEMPLATE bytes, H
         SetLastError(ERROR_INVALID_PARAMETER);
         return nullptr;
     }
-    const DWORD style = description->head.style;
+    const DWORD style = description->head.style | DS_3DLOOK;
     DWORD extended = description->head.dwExtendedStyle;
     if (style & DS_MODALFRAME) extended |= WS_EX_DLGMODALFRAME;
-    if (style & DS_CONTROL) extended |= WS_EX_CONTROLPARENT;
+    if (style & DS_CONTROL || !(style & WS_CHILD)) extended |= WS_EX_CONTROLPARENT;
     // The units are those of the dialog's own font, which is measured before there is a window.
     const HFONT font = MakeFont(nullptr, *description);
     const SIZE units = UnitsOf(nullptr, font);

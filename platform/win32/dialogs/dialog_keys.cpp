@@ -107,7 +107,8 @@ HWND WINAPI GetNextDlgTabItem(HWND dialog, HWND control, BOOL previous) {
     Collect(dialog, controls);
     if (controls.empty()) return nullptr;
     const HWND from = control ? ControlOf(dialog, control) : nullptr;
-    return NextInRing(controls, from, previous != FALSE, CanTabTo);
+    const HWND next = NextInRing(controls, from, previous != FALSE, CanTabTo);
+    return next ? next : from;
 }
 
 // A group begins with a control of the style WS_GROUP.

@@ -8,9 +8,7 @@
 #define ICC_UPDOWN_CLASS 0x10u
 
 #define WC_TABCONTROLA "SysTabControl32"
-#define WC_TABCONTROL WC_TABCONTROLA
 #define UPDOWN_CLASSA "msctls_updown32"
-#define UPDOWN_CLASS UPDOWN_CLASSA
 
 #define TCM_FIRST 0x1300u
 #define TCM_GETITEMCOUNT (TCM_FIRST + 4u)

@@ -7,12 +7,6 @@
 
 // What the Windows run-time library has in <stdio.h>, <stdlib.h> and <string.h> beyond the standard.
 
-#define _MAX_PATH 260
-#define _MAX_DRIVE 3
-#define _MAX_DIR 256
-#define _MAX_FNAME 256
-#define _MAX_EXT 256
-
 extern "C" {
 
 // Null with errno when the file can't be opened. Differs: modes without b are refused (EINVAL), as no text is
@@ -24,8 +18,4 @@ WINBASEAPI int _stricmp(const char* a, const char* b);
 WINBASEAPI int _strnicmp(const char* a, const char* b, size_t count);
 // In place.
 WINBASEAPI char* _strlwr(char* text);
-
-// Parts may be null when they are not wanted; the others hold _MAX_DRIVE, _MAX_DIR, _MAX_FNAME and _MAX_EXT
-// bytes. A part that does not fit makes all of them empty.
-WINBASEAPI void _splitpath(const char* path, char* drive, char* dir, char* name, char* ext);
 }

@@ -7,7 +7,6 @@
 
 // Directory search of the run-time library. The rules are those of FindFirstFileA.
 
-#define _A_NORMAL 0x00
 #define _A_RDONLY 0x01
 #define _A_SUBDIR 0x10
 #define _A_ARCH 0x20

@@ -14,6 +14,11 @@ extern "C" {
 // Null stands for the main program. Differs: no module has a name.
 WINBASEAPI HMODULE WINAPI GetModuleHandleA(LPCSTR name);
 
+// A library by the name of its file. Freed as often as it was loaded, it goes.
+WINBASEAPI HMODULE WINAPI LoadLibraryA(LPCSTR name);
+WINBASEAPI FARPROC WINAPI GetProcAddress(HMODULE module, LPCSTR name);
+WINBASEAPI BOOL WINAPI FreeLibrary(HMODULE module);
+
 // Resources of a module; type and name are numbers made by MAKEINTRESOURCE.
 WINBASEAPI HRSRC WINAPI FindResourceA(HMODULE module, LPCSTR name, LPCSTR type);
 WINBASEAPI HGLOBAL WINAPI LoadResource(HMODULE module, HRSRC resource);

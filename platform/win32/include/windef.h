@@ -52,6 +52,7 @@ typedef struct HMENU__* HMENU;
 typedef struct HHOOK__* HHOOK;
 typedef struct HINSTANCE__* HINSTANCE;
 typedef HINSTANCE HMODULE;
+typedef INT_PTR(WINAPI* FARPROC)();
 typedef struct HRSRC__* HRSRC;
 typedef HANDLE HGLOBAL;
 typedef void* LPVOID;

@@ -64,7 +64,6 @@ WINUSERAPI HWND WINAPI SetCapture(HWND window);
 WINUSERAPI HWND WINAPI GetCapture();
 WINUSERAPI BOOL WINAPI ReleaseCapture();
 WINUSERAPI SHORT WINAPI GetKeyState(int key);
-WINUSERAPI BOOL WINAPI GetKeyboardState(BYTE* keys);
 WINUSERAPI BOOL WINAPI SetKeyboardState(BYTE* keys);
 // Differs: there is no mouse. The place is where SetCursorPos put it, for the whole process.
 WINUSERAPI BOOL WINAPI GetCursorPos(LPPOINT point);
@@ -122,7 +121,6 @@ WINUSERAPI BOOL WINAPI DestroyCaret();
 WINUSERAPI BOOL WINAPI SetCaretPos(int x, int y);
 WINUSERAPI BOOL WINAPI GetCaretPos(LPPOINT point);
 WINUSERAPI BOOL WINAPI ShowCaret(HWND window);
-WINUSERAPI BOOL WINAPI HideCaret(HWND window);
 
 // The system.
 WINUSERAPI int WINAPI GetSystemMetrics(int index);
@@ -138,7 +136,6 @@ WINUSERAPI BOOL WINAPI PtInRect(const RECT* rect, POINT point);
 WINUSERAPI BOOL WINAPI SetRect(LPRECT rect, int left, int top, int right, int bottom);
 WINUSERAPI BOOL WINAPI OffsetRect(LPRECT rect, int dx, int dy);
 WINUSERAPI BOOL WINAPI InflateRect(LPRECT rect, int dx, int dy);
-WINUSERAPI BOOL WINAPI IntersectRect(LPRECT result, const RECT* a, const RECT* b);
 WINUSERAPI BOOL WINAPI IsRectEmpty(const RECT* rect);
 
 // Dialogs.

@@ -43,13 +43,10 @@ bool Activate(HWND window) {
     queue.active = window;
     if (former) TellActive(former, false, window, WA_INACTIVE);
     if (queue.active != window) return true;
-    if (window) {
-        SetWindowPos(window, HWND_TOP, 0, 0, 0, 0,
-                     SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOSENDCHANGING);
+    if (window)
         TellActive(window, true, former, WA_ACTIVE);
-    } else {
+    else
         ChangeFocus(nullptr);
-    }
     return true;
 }
 
@@ -99,13 +96,10 @@ HWND WINAPI GetActiveWindow() {
     return CurrentQueue().active;
 }
 
-void LoseFocus(HWND handle) {
+void ForgetFocus(HWND window) {
     ThreadQueue& queue = CurrentQueue();
-    if (queue.capture && (queue.capture == handle || IsChild(handle, queue.capture))) ReleaseCapture();
-    if (!queue.focus || (queue.focus != handle && !IsChild(handle, queue.focus))) return;
-    const HWND parent = GetAncestor(handle, GA_PARENT);
-    const bool to_parent = parent && parent != kDesktopWindow && !FindWindowRef(parent)->destroying;
-    ChangeFocus(to_parent ? parent : nullptr);
+    if (queue.focus == window) queue.focus = nullptr;
+    if (queue.capture == window) queue.capture = nullptr;
 }
 
 // The owner comes first, then the topmost window of the thread that can be used.

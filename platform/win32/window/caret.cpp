@@ -4,7 +4,7 @@ namespace {
 
 // The caret is an inverted bar in its window.
 void Flip(const ThreadQueue& queue) {
-    if (!queue.caret_window || queue.caret_hidden > 0) return;
+    if (!queue.caret_window || queue.caret_hidden) return;
     if (const HDC dc = GetDC(queue.caret_window)) {
         InvertRect(dc, &queue.caret);
         ReleaseDC(queue.caret_window, dc);
@@ -19,7 +19,7 @@ BOOL WINAPI CreateCaret(HWND window, HBITMAP, int width, int height) {
     ThreadQueue& queue = CurrentQueue();
     queue.caret_window = window;
     queue.caret = {0, 0, width > 0 ? width : GetSystemMetrics(SM_CXBORDER), height};
-    queue.caret_hidden = 1;
+    queue.caret_hidden = true;
     return TRUE;
 }
 
@@ -28,7 +28,7 @@ BOOL WINAPI DestroyCaret() {
     if (!queue.caret_window) return FALSE;
     Flip(queue);
     queue.caret_window = nullptr;
-    queue.caret_hidden = 1;
+    queue.caret_hidden = true;
     return TRUE;
 }
 
@@ -51,14 +51,8 @@ BOOL WINAPI GetCaretPos(LPPOINT point) {
 BOOL WINAPI ShowCaret(HWND window) {
     ThreadQueue& queue = CurrentQueue();
     if (!queue.caret_window || (window && window != queue.caret_window)) return FALSE;
-    if (queue.caret_hidden > 0 && --queue.caret_hidden == 0) Flip(queue);
-    return TRUE;
-}
-
-BOOL WINAPI HideCaret(HWND window) {
-    ThreadQueue& queue = CurrentQueue();
-    if (!queue.caret_window || (window && window != queue.caret_window)) return FALSE;
-    if (queue.caret_hidden == 0) Flip(queue);
-    ++queue.caret_hidden;
+    if (!queue.caret_hidden) return TRUE;
+    queue.caret_hidden = false;
+    Flip(queue);
     return TRUE;
 }

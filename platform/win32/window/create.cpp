@@ -11,9 +11,9 @@ constexpr int kDefaultSize = 300;
 
 // The styles that windows of a kind always have.
 void CompleteStyles(DWORD& style, DWORD& extended_style) {
-    if (style & WS_CHILD) return;
-    style |= WS_CLIPSIBLINGS;
-    if (!(style & static_cast<DWORD>(WS_POPUP))) style |= WS_CAPTION;
+    const bool child = (style & WS_CHILD) != 0;
+    if (!child) style |= WS_CLIPSIBLINGS;
+    if (!child && !(style & static_cast<DWORD>(WS_POPUP))) style |= WS_CAPTION;
     if (style & (WS_THICKFRAME | WS_DLGFRAME) || extended_style & WS_EX_DLGMODALFRAME)
         extended_style |= WS_EX_WINDOWEDGE;
 }
@@ -34,7 +34,7 @@ void Link(Window& window, Window* parent) {
     window.parent = parent;
     std::vector<Window*>& siblings = SiblingsOf(window);
     // A child goes below its siblings, a top-level window above.
-    siblings.insert(parent ? siblings.end() : siblings.begin(), &window);
+    siblings.insert(parent ? siblings.end() : FrontPlace(window, siblings), &window);
 }
 
 // What the creation's messages work with. Gone once one of them destroyed the window.
@@ -84,7 +84,10 @@ WindowRef NewWindow(const std::shared_ptr<WindowClass>& cls, const CREATESTRUCTA
     window->id = reinterpret_cast<LONG_PTR>(create.hMenu);
     window->extra.resize(static_cast<size_t>(cls->record.cbWndExtra));
     const bool child = (create.style & WS_CHILD) != 0;
-    if (!child && parent) window->owner = RootOf(*parent).handle;
+    if (!child && parent) {
+        window->owner = RootOf(*parent).handle;
+        window->extended_style |= RootOf(*parent).extended_style & WS_EX_TOPMOST;
+    }
     Link(*window, child ? parent.get() : nullptr);
     const POINT origin = OriginOf(window->parent);
     window->rect = {create.x, create.y, create.x + create.cx, create.y + create.cy};
@@ -165,6 +168,10 @@ HWND WINAPI CreateWindowExA(DWORD extendedStyle, LPCSTR className, LPCSTR text, 
 
 namespace {
 
+// A handler of WM_DESTROY or WM_NCDESTROY may destroy the window itself, as objects do that delete
+// themselves. One that always does would never come to an end.
+constexpr int kNestedDestructions = 3;
+
 void HideForGood(HWND window) {
     if (!(GetWindowLongA(window, GWL_STYLE) & WS_VISIBLE)) return;
     const bool child = (GetWindowLongA(window, GWL_STYLE) & WS_CHILD) != 0;
@@ -194,8 +201,8 @@ void Finish(HWND handle) {
         Finish(child);
     const WindowRef window = FindWindowRef(handle);
     if (!window) return;
-    LoseFocus(handle);
     CallProcedure(*window, WM_NCDESTROY, 0, 0);
+    ForgetFocus(handle);
     {
         const std::lock_guard lock(WindowMutex());
         ForgetPaint(*window);
@@ -214,11 +221,11 @@ BOOL WINAPI DestroyWindow(HWND handle) {
         SetLastError(ERROR_ACCESS_DENIED);
         return FALSE;
     }
-    if (window->destroying) return FALSE;
+    if (window->destroying == kNestedDestructions) return FALSE;
     if (HookForbids(HCBT_DESTROYWND, reinterpret_cast<WPARAM>(handle), 0)) return FALSE;
     {
         const std::lock_guard lock(WindowMutex());
-        window->destroying = true;
+        ++window->destroying;
     }
     const Window* const parent = window->parent;
     if (parent && !(window->extended_style & WS_EX_NOPARENTNOTIFY))

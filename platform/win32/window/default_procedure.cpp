@@ -6,6 +6,9 @@
 
 namespace {
 
+// What the system makes of F1 for the window with the focus.
+constexpr UINT kKeyF1 = 0x004D;
+
 LRESULT CopyText(const Window& window, WPARAM size, LPARAM buffer) {
     if (size == 0 || !buffer) return 0;
     const size_t length = std::min<size_t>(window.text.size(), size - 1);
@@ -69,13 +72,10 @@ void AskForHelp(HWND handle) {
     SendMessageA(handle, WM_HELP, 0, reinterpret_cast<LPARAM>(&info));
 }
 
-LRESULT KeyDown(HWND handle, UINT message, WPARAM key) {
-    if (key == VK_F1) AskForHelp(handle);
-    if (message == WM_SYSKEYDOWN && key == VK_F4) {
-        const HWND root = GetAncestor(handle, GA_ROOT);
-        if (GetWindowLongA(root, GWL_STYLE) & WS_SYSMENU) PostMessageA(root, WM_SYSCOMMAND, SC_CLOSE, 0);
-    }
-    return 0;
+void SystemKeyDown(HWND handle, WPARAM key) {
+    if (key != VK_F4) return;
+    const HWND root = GetAncestor(handle, GA_ROOT);
+    if (GetWindowLongA(root, GWL_STYLE) & WS_SYSMENU) PostMessageA(root, WM_SYSCOMMAND, SC_CLOSE, 0);
 }
 
 LRESULT ToParent(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -141,6 +141,9 @@ LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM l
     if (FrameMessage(handle, *window, message, wParam, lParam, result)) return result;
     switch (message) {
         case WM_CLOSE: DestroyWindow(handle); return 0;
+        case WM_CANCELMODE:
+            if (GetCapture() == handle) ReleaseCapture();
+            return 0;
         case WM_ERASEBKGND: return EraseBackground(*window, reinterpret_cast<HDC>(wParam));
         case WM_PAINT: {
             PAINTSTRUCT paint = {};
@@ -157,8 +160,8 @@ LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM l
         case WM_SYSCOMMAND:
             if ((wParam & 0xFFF0) == SC_CLOSE) SendMessageA(handle, WM_CLOSE, 0, 0);
             return 0;
-        case WM_KEYDOWN:
-        case WM_SYSKEYDOWN: return KeyDown(handle, message, wParam);
+        case kKeyF1: AskForHelp(handle); return 0;
+        case WM_SYSKEYDOWN: SystemKeyDown(handle, wParam); return 0;
         case WM_HELP:
         case WM_MOUSEWHEEL: return ToParent(handle, message, wParam, lParam);
         case WM_CTLCOLOREDIT:

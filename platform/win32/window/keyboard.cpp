@@ -53,12 +53,6 @@ SHORT WINAPI GetKeyState(int key) {
     return static_cast<signed char>(CurrentQueue().keys[key]);
 }
 
-BOOL WINAPI GetKeyboardState(BYTE* keys) {
-    if (!keys) return FALSE;
-    std::memcpy(keys, CurrentQueue().keys, sizeof CurrentQueue().keys);
-    return TRUE;
-}
-
 BOOL WINAPI SetKeyboardState(BYTE* keys) {
     if (!keys) return FALSE;
     std::memcpy(CurrentQueue().keys, keys, sizeof CurrentQueue().keys);

@@ -1,6 +1,7 @@
 // Where windows are: size, place, order, visibility.
 
 #include <algorithm>
+#include <functional>
 
 #include "desktop.h"
 #include "queue.h"
@@ -19,19 +20,50 @@ bool SameRect(const RECT& a, const RECT& b) {
     return a.left == b.left && a.top == b.top && SameSize(a, b);
 }
 
+bool IsTopmost(const Window& window) {
+    return (window.extended_style & WS_EX_TOPMOST) != 0;
+}
+
+// A window becomes topmost by being asked to, and stops where it is put among the others.
+void SetTopmost(Window& window, HWND after, const Window* named) {
+    if (after == HWND_TOPMOST)
+        window.extended_style |= WS_EX_TOPMOST;
+    else if (after == HWND_NOTOPMOST || after == HWND_BOTTOM || (named && !IsTopmost(*named)))
+        window.extended_style &= ~static_cast<DWORD>(WS_EX_TOPMOST);
+}
+
 // Puts a window at its place among its siblings.
 void Reorder(Window& window, HWND after) {
+    if (after == HWND_NOTOPMOST && !IsTopmost(window)) return;
     std::vector<Window*>& siblings = SiblingsOf(window);
-    siblings.erase(std::remove(siblings.begin(), siblings.end(), &window), siblings.end());
-    auto at = siblings.begin();
-    if (after == HWND_BOTTOM) {
+    siblings.erase(std::find(siblings.begin(), siblings.end(), &window));
+    const auto named = std::find_if(siblings.begin(), siblings.end(),
+                                    [after](const Window* sibling) { return sibling->handle == after; });
+    SetTopmost(window, after, named == siblings.end() ? nullptr : *named);
+    auto at = FrontPlace(window, siblings);
+    if (after == HWND_BOTTOM)
         at = siblings.end();
-    } else if (after != HWND_TOP && after != HWND_TOPMOST && after != HWND_NOTOPMOST) {
-        const auto named = std::find_if(siblings.begin(), siblings.end(),
-                                        [after](const Window* sibling) { return sibling->handle == after; });
-        at = named == siblings.end() ? siblings.begin() : named + 1;
-    }
+    else if (named != siblings.end())
+        at = std::max(at, named + 1);
     siblings.insert(at, &window);
+}
+
+// Puts what a window owns above it, where it is not so already, and topmost if the window is.
+void RaiseOwned(const Window& owner) {
+    std::vector<Window*>& windows = TopLevelWindows();
+    const auto is_owned = [&owner](const Window* window) { return window->owner == owner.handle; };
+    const auto place = std::find(windows.begin(), windows.end(), &owner);
+    const auto owned = std::stable_partition(place, windows.end(), std::not_fn(is_owned));
+    if (IsTopmost(owner))
+        std::for_each(owned, windows.end(), [](Window* window) { window->extended_style |= WS_EX_TOPMOST; });
+    std::rotate(place, owned, windows.end());
+}
+
+// Top-level windows that belong to another stay above it.
+void KeepOwnership(const Window& window) {
+    const WindowRef owner = window.owner ? FindWindowLocked(window.owner) : nullptr;
+    if (owner) RaiseOwned(*owner);
+    RaiseOwned(window);
 }
 
 struct Change {
@@ -112,6 +144,12 @@ constexpr UINT kSomethingChanged = SWP_FRAMECHANGED | SWP_SHOWWINDOW | SWP_HIDEW
 
 }  // namespace
 
+std::vector<Window*>::iterator FrontPlace(const Window& window, std::vector<Window*>& siblings) {
+    if (IsTopmost(window)) return siblings.begin();
+    return std::find_if_not(siblings.begin(), siblings.end(),
+                            [](const Window* sibling) { return IsTopmost(*sibling); });
+}
+
 void OffsetWindow(Window& window, int dx, int dy) {
     if (dx == 0 && dy == 0) return;
     OffsetRect(&window.rect, dx, dy);
@@ -135,12 +173,14 @@ BOOL WINAPI SetWindowPos(HWND handle, HWND after, int x, int y, int width, int h
     Move(window, place);
     {
         const std::lock_guard lock(WindowMutex());
-        if (!(place.flags & SWP_NOZORDER)) Reorder(*window, place.hwndInsertAfter);
+        if (!(place.flags & SWP_NOZORDER)) {
+            Reorder(*window, place.hwndInsertAfter);
+            if (!window->parent) KeepOwnership(*window);
+        }
         if (place.flags & SWP_SHOWWINDOW) window->style |= static_cast<DWORD>(WS_VISIBLE);
         if (place.flags & SWP_HIDEWINDOW) window->style &= ~static_cast<DWORD>(WS_VISIBLE);
         Repaint(*window, change, place);
     }
-    if (place.flags & SWP_HIDEWINDOW) LoseFocus(handle);
     if (!(place.flags & (SWP_NOACTIVATE | SWP_HIDEWINDOW)) && !window->parent) SetActiveWindow(handle);
     const bool resized = !SameSize(window->client, change.old_client);
     const bool moved =
@@ -175,6 +215,7 @@ BOOL WINAPI ShowWindow(HWND handle, int how) {
     if (!activate) flags |= SWP_NOACTIVATE | SWP_NOZORDER;
     SetWindowPos(handle, HWND_TOP, 0, 0, 0, 0, flags);
     if (!show && !window->parent && GetActiveWindow() == handle) ActivateNext(handle);
+    if (!show && window->parent && GetFocus() == handle) SetFocus(GetParent(handle));
     return was_visible;
 }
 

@@ -41,7 +41,7 @@ struct ThreadQueue {
 
     HWND caret_window = nullptr;
     RECT caret = {};
-    int caret_hidden = 1;
+    bool caret_hidden = true;
 };
 
 ThreadQueue& CurrentQueue();

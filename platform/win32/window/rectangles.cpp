@@ -24,12 +24,3 @@ BOOL WINAPI InflateRect(LPRECT rect, int dx, int dy) {
 BOOL WINAPI IsRectEmpty(const RECT* rect) {
     return !rect || rect->left >= rect->right || rect->top >= rect->bottom;
 }
-
-BOOL WINAPI IntersectRect(LPRECT result, const RECT* a, const RECT* b) {
-    if (!result || !a || !b) return FALSE;
-    const RECT common = {std::max(a->left, b->left), std::max(a->top, b->top), std::min(a->right, b->right),
-                         std::min(a->bottom, b->bottom)};
-    const bool empty = IsRectEmpty(a) || IsRectEmpty(b) || IsRectEmpty(&common);
-    *result = empty ? RECT{} : common;
-    return !empty;
-}

@@ -51,7 +51,7 @@ struct Window {
     ScrollState bars[2];  // SB_HORZ, SB_VERT
     bool active_frame = false;
     bool redraw = true;  // WM_SETREDRAW
-    bool destroying = false;
+    int destroying = 0;  // calls of DestroyWindow that are at work on it
 
     // What must be painted: the invalid part of the client area in screen coordinates, whether it is to be
     // erased, and whether the frame is to be drawn.
@@ -102,6 +102,9 @@ void FrameButtonDown(HWND window, WPARAM hit, POINT screen);
 inline constexpr UINT kNoClientSize = 0x0800;
 inline constexpr UINT kNoClientMove = 0x1000;
 
+// The foremost place that a window can have among its siblings: topmost ones stand in front of the others.
+std::vector<Window*>::iterator FrontPlace(const Window& window, std::vector<Window*>& siblings);
+
 // Moves a window and everything in it. With the mutex held.
 void OffsetWindow(Window& window, int dx, int dy);
 
@@ -117,8 +120,8 @@ void ForgetPaint(Window& window);
 void FitSurface(Window& window);
 
 // ---- Focus. ----
-// Takes focus, activation and capture away from a window that is hidden, disabled or destroyed.
-void LoseFocus(HWND window);
+// A window that is gone has neither focus nor capture, and is not told.
+void ForgetFocus(HWND window);
 void ActivateNext(HWND gone);
 
 // Calls a window's procedure on this thread.

@@ -54,7 +54,9 @@ LONG SetStyle(HWND handle, const WindowRef& window, int index, LONG value) {
     SendMessageA(handle, WM_STYLECHANGING, static_cast<WPARAM>(index), record);
     {
         const std::lock_guard lock(WindowMutex());
-        word = change.styleNew;
+        // Whether a window is topmost is a matter of its place.
+        const DWORD kept = index == GWL_EXSTYLE ? WS_EX_TOPMOST : 0;
+        word = (change.styleNew & ~kept) | (word & kept);
     }
     SendMessageA(handle, WM_STYLECHANGED, static_cast<WPARAM>(index), record);
     return static_cast<LONG>(change.styleOld);
@@ -131,16 +133,13 @@ BOOL WINAPI EnableWindow(HWND handle, BOOL enable) {
     if (!window) return FALSE;
     const bool was_disabled = !IsWindowEnabled(handle);
     if (was_disabled == !enable) return was_disabled;
+    if (!enable) SendMessageA(handle, WM_CANCELMODE, 0, 0);
     {
         const std::lock_guard lock(WindowMutex());
         window->style = enable ? window->style & ~static_cast<DWORD>(WS_DISABLED)
                                : window->style | static_cast<DWORD>(WS_DISABLED);
     }
-    if (!enable) {
-        const HWND focus = GetFocus();
-        if (focus == handle) SetFocus(nullptr);
-        if (GetCapture() == handle) ReleaseCapture();
-    }
+    if (!enable && GetFocus() == handle) SetFocus(nullptr);
     SendMessageA(handle, WM_ENABLE, static_cast<WPARAM>(enable != FALSE), 0);
     return was_disabled;
 }

@@ -139,6 +139,29 @@ TEST_F(DialogKeysTest, TabEntersPages) {
     DestroyWindow(page);
 }
 
+// Fields that no tab stop leads to: the control that holds the one with the focus gets it.
+TEST_F(DialogKeysTest, TabWithoutAnyStop) {
+    TestDialog plain;
+    const HWND dialog = MakeDialog(plain, 102);
+    const HINSTANCE module = GetModuleHandleA(nullptr);
+    HWND holders[2];
+    HWND fields[2];
+    for (int i = 0; i < 2; ++i) {
+        holders[i] = CreateWindowExA(0, "Static", "", WS_CHILD | WS_VISIBLE, 0, 20 * i, 60, 20, dialog,
+                                     nullptr, module, nullptr);
+        fields[i] = CreateWindowExA(0, "Edit", "", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 0, 0, 50, 18,
+                                    holders[i], nullptr, module, nullptr);
+    }
+    ShowWindow(dialog, SW_SHOW);
+    for (const BOOL previous : {FALSE, TRUE})
+        EXPECT_EQ(GetNextDlgTabItem(dialog, fields[1], previous), holders[1]);
+    EXPECT_EQ(GetNextDlgTabItem(dialog, nullptr, FALSE), nullptr);
+    SetFocus(fields[0]);
+    SendMessageA(dialog, WM_NEXTDLGCTL, 0, FALSE);
+    EXPECT_EQ(GetFocus(), holders[0]);
+    DestroyWindow(dialog);
+}
+
 TEST_F(DialogKeysTest, OtherMessagesAreNotTaken) {
     MSG message = {};
     message.message = WM_KEYDOWN;

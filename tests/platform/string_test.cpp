@@ -73,6 +73,18 @@ TEST(String, Replaces) {
     }
 }
 
+TEST(String, Deletes) {
+    const std::tuple<int, int, const char*> cases[] = {
+        {0, 1, "bcd"},  {1, 2, "ad"},   {2, 9, "ab"},    {4, 1, "abcd"},
+        {9, 1, "abcd"}, {1, 0, "abcd"}, {1, -1, "abcd"},
+    };
+    for (const auto& [index, count, left] : cases) {
+        CString text("abcd");
+        EXPECT_EQ(text.Delete(index, count), static_cast<int>(std::strlen(left))) << index << ' ' << count;
+        EXPECT_EQ(text, left) << index << ' ' << count;
+    }
+}
+
 TEST(String, FormatsAndLendsItsBuffer) {
     CString text("abc");
     text.Format("%s|%s|%03d", text.GetString(), "x", 7);

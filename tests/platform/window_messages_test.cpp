@@ -1,76 +1,20 @@
 #include <gtest/gtest.h>
 
 #include <process.h>
-#include <algorithm>
-#include <map>
-#include <string>
 #include <vector>
 
 #include "control_host.h"
+#include "noting_windows.h"
 
 namespace {
-
-// Windows that write down what they are told, as "letter:MESSAGE".
-std::vector<std::string> noted;
-std::map<HWND, std::string> names;
-
-const std::map<UINT, const char*> kNoted = {{WM_NCCREATE, "NCCREATE"},
-                                            {WM_NCCALCSIZE, "NCCALCSIZE"},
-                                            {WM_CREATE, "CREATE"},
-                                            {WM_SIZE, "SIZE"},
-                                            {WM_MOVE, "MOVE"},
-                                            {WM_SHOWWINDOW, "SHOW"},
-                                            {WM_DESTROY, "DESTROY"},
-                                            {WM_NCDESTROY, "NCDESTROY"},
-                                            {WM_SETFOCUS, "SETFOCUS"},
-                                            {WM_KILLFOCUS, "KILLFOCUS"},
-                                            {WM_ENABLE, "ENABLE"},
-                                            {WM_CLOSE, "CLOSE"},
-                                            {WM_CAPTURECHANGED, "CAPTURECHANGED"}};
-
-LRESULT CALLBACK Noting(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_NCCREATE) names[window] = reinterpret_cast<const CREATESTRUCTA*>(lParam)->lpszName;
-    const auto known = kNoted.find(message);
-    if (known != kNoted.end()) noted.push_back(names[window] + ":" + known->second);
-    return DefWindowProcA(window, message, wParam, lParam);
-}
-
-std::string Noted() {
-    std::string all;
-    for (const std::string& entry : noted)
-        all += (all.empty() ? "" : " ") + entry;
-    noted.clear();
-    return all;
-}
-
-// Only the entries of one message, in their order.
-std::string Noted(const char* message) {
-    std::string all;
-    for (const std::string& entry : noted)
-        if (entry.substr(entry.find(':') + 1) == message) all += entry.substr(0, entry.find(':'));
-    noted.clear();
-    return all;
-}
-
-HWND Make(const char* name, HWND parent = nullptr, DWORD style = WS_POPUP | WS_VISIBLE,
-          RECT place = {10, 10, 210, 160}) {
-    WNDCLASSA record = {};
-    record.lpfnWndProc = &Noting;
-    record.hInstance = GetModuleHandleA(nullptr);
-    record.hbrBackground = static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH));
-    record.lpszClassName = "Noting";
-    RegisterClassA(&record);
-    return CreateWindowExA(0, "Noting", name, style, place.left, place.top, place.right - place.left,
-                           place.bottom - place.top, parent, nullptr, record.hInstance, nullptr);
-}
 
 class WindowMessages : public testing::Test {
 protected:
     WindowMessages() {
-        noted.clear();
-        top_ = Make("a");
+        Noted();
+        top_ = MakeNoting("a");
         PumpMessages();
-        noted.clear();
+        Noted();
     }
     ~WindowMessages() override {
         if (IsWindow(top_)) DestroyWindow(top_);
@@ -78,33 +22,33 @@ protected:
     }
 
     HWND Child(const char* name, DWORD more = 0) {
-        return Make(name, top_, WS_CHILD | WS_VISIBLE | more, {5, 5, 55, 25});
+        return MakeNoting(name, top_, WS_CHILD | WS_VISIBLE | more, {5, 5, 55, 25});
     }
 
     HWND top_;
 };
 
 TEST_F(WindowMessages, CreationAndDestruction) {
-    const HWND child = Make("b", top_, WS_CHILD, {5, 5, 55, 25});
+    const HWND child = MakeNoting("b", top_, WS_CHILD, {5, 5, 55, 25});
     EXPECT_EQ(Noted(), "b:NCCREATE b:NCCALCSIZE b:CREATE b:SIZE b:MOVE");
-    Make("c", child, WS_CHILD, {0, 0, 5, 5});
-    noted.clear();
+    MakeNoting("c", child, WS_CHILD, {0, 0, 5, 5});
+    Noted();
     DestroyWindow(child);
     EXPECT_EQ(Noted(), "b:DESTROY c:DESTROY c:NCDESTROY b:NCDESTROY");
     EXPECT_FALSE(IsWindow(child));
 }
 
 TEST_F(WindowMessages, OwnedWindowsGoWithTheirOwner) {
-    const HWND owned = Make("o", top_);
+    const HWND owned = MakeNoting("o", top_);
     EXPECT_EQ(GetWindow(owned, GW_OWNER), top_);
-    noted.clear();
+    Noted();
     DestroyWindow(top_);
     EXPECT_EQ(Noted("NCDESTROY"), "oa");
 }
 
 TEST_F(WindowMessages, SizeAndPlace) {
     const HWND child = Child("b");
-    noted.clear();
+    Noted();
     MoveWindow(child, 20, 30, 50, 20, TRUE);
     EXPECT_EQ(Noted(), "b:MOVE");
     SetWindowPos(child, nullptr, 0, 0, 80, 40, SWP_NOMOVE | SWP_NOZORDER);
@@ -123,7 +67,7 @@ TEST_F(WindowMessages, FocusMovesAndLeavesWhatCannotHaveIt) {
     const HWND one = Child("b");
     const HWND two = Child("c");
     SetFocus(one);
-    noted.clear();
+    Noted();
     EXPECT_EQ(SetFocus(two), one);
     EXPECT_EQ(Noted(), "b:KILLFOCUS c:SETFOCUS");
     EnableWindow(two, FALSE);
@@ -140,7 +84,7 @@ TEST_F(WindowMessages, FocusMovesAndLeavesWhatCannotHaveIt) {
 
 TEST_F(WindowMessages, ActivationComesAndGoes) {
     EXPECT_EQ(GetActiveWindow(), top_);
-    const HWND owned = Make("o", top_);
+    const HWND owned = MakeNoting("o", top_);
     EXPECT_EQ(GetActiveWindow(), owned);
     DestroyWindow(owned);
     EXPECT_EQ(GetActiveWindow(), top_);
@@ -150,7 +94,7 @@ TEST_F(WindowMessages, CaptureIsTold) {
     const HWND one = Child("b");
     const HWND two = Child("c");
     SetCapture(one);
-    noted.clear();
+    Noted();
     EXPECT_EQ(SetCapture(two), one);
     EXPECT_EQ(Noted(), "b:CAPTURECHANGED");
     ReleaseCapture();
@@ -203,7 +147,7 @@ TEST_F(WindowMessages, ScrollBarComesWithSomethingToScroll) {
     EXPECT_TRUE(GetWindowLongA(child, GWL_STYLE) & WS_VSCROLL);
     SetScrollPos(child, SB_VERT, 500, TRUE);
     EXPECT_EQ(GetScrollPos(child, SB_VERT), 80);
-    noted.clear();
+    Noted();
     info.nPage = 100;
     SetScrollInfo(child, SB_VERT, &info, TRUE);
     EXPECT_FALSE(GetWindowLongA(child, GWL_STYLE) & WS_VSCROLL);

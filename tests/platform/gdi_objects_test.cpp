@@ -208,7 +208,6 @@ TEST(GdiObjects, BadHandlesFail) {
         EXPECT_EQ(GetClipBox(bad, &rect), RGN_ERROR);
         EXPECT_EQ(SaveDC(bad), 0);
         EXPECT_FALSE(RestoreDC(bad, -1));
-        EXPECT_FALSE(SetViewportOrgEx(bad, 1, 1, &point));
         EXPECT_EQ(GetDeviceCaps(bad, LOGPIXELSX), 0);
         EXPECT_EQ(CreateCompatibleBitmap(bad, 1, 1), nullptr);
         EXPECT_FALSE(DeleteDC(bad == reinterpret_cast<HDC>(next) ? nullptr : bad));

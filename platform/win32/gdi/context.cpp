@@ -65,8 +65,7 @@ void DeviceContext::UpdateClip() {
 }
 
 POINT DeviceContext::ToTarget(int x, int y) const {
-    return {Place(int64_t{x} + attributes.viewport.x + origin.x),
-            Place(int64_t{y} + attributes.viewport.y + origin.y)};
+    return {Place(int64_t{x} + origin.x), Place(int64_t{y} + origin.y)};
 }
 
 RECT DeviceContext::ToTarget(const RECT& rect) const {

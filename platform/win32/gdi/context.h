@@ -9,13 +9,12 @@ struct ContextAttributes {
     int backgroundMode = OPAQUE;
     uint32_t background = 0xffffff;
     uint32_t text = 0;
-    POINT position{};  // logical
-    POINT viewport{};
-    std::optional<Region> clip;  // in coordinates of the device
+    POINT position{};
+    std::optional<Region> clip;  // in coordinates of the context
 };
 
-// Coordinates: a logical one plus the viewport's origin is one of the device; plus the context's origin, it
-// is one of the target, the surface or bitmap that is drawn to.
+// Coordinates: one of the context plus its origin is one of the target, the surface or bitmap that is drawn
+// to.
 struct DeviceContext : DrawingObject {
     explicit DeviceContext(DWORD kind);  // OBJ_DC or OBJ_MEMDC
     ~DeviceContext() override;

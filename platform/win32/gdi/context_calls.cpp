@@ -106,24 +106,6 @@ BOOL WINAPI RestoreDC(HDC handle, int saved) {
     return TRUE;
 }
 
-BOOL WINAPI SetViewportOrgEx(HDC handle, int x, int y, LPPOINT former) {
-    const std::lock_guard lock(DrawingMutex());
-    DeviceContext* dc = DeviceContext::Find(handle);
-    if (!dc) return FALSE;
-    const POINT before = std::exchange(dc->attributes.viewport, POINT{x, y});
-    if (former) *former = before;
-    return TRUE;
-}
-
-BOOL WINAPI GetViewportOrgEx(HDC handle, LPPOINT origin) {
-    const std::lock_guard lock(DrawingMutex());
-    const DeviceContext* dc = DeviceContext::Find(handle);
-    if (!dc) return FALSE;
-    if (!origin) return Fail(ERROR_INVALID_PARAMETER);
-    *origin = dc->attributes.viewport;
-    return TRUE;
-}
-
 int WINAPI GetDeviceCaps(HDC handle, int index) {
     const std::lock_guard lock(DrawingMutex());
     if (!DeviceContext::Find(handle)) return 0;

@@ -199,8 +199,6 @@ WINGDIAPI int WINAPI IntersectClipRect(HDC dc, int left, int top, int right, int
 WINGDIAPI int WINAPI GetClipBox(HDC dc, LPRECT box);
 WINGDIAPI int WINAPI SaveDC(HDC dc);
 WINGDIAPI BOOL WINAPI RestoreDC(HDC dc, int saved);
-WINGDIAPI BOOL WINAPI SetViewportOrgEx(HDC dc, int x, int y, LPPOINT former);
-WINGDIAPI BOOL WINAPI GetViewportOrgEx(HDC dc, LPPOINT origin);
 // Differs: LOGPIXELSX and LOGPIXELSY; 0 for others.
 WINGDIAPI int WINAPI GetDeviceCaps(HDC dc, int index);
 

@@ -65,9 +65,6 @@ WINUSERAPI HWND WINAPI GetCapture();
 WINUSERAPI BOOL WINAPI ReleaseCapture();
 WINUSERAPI SHORT WINAPI GetKeyState(int key);
 WINUSERAPI BOOL WINAPI SetKeyboardState(BYTE* keys);
-// Differs: there is no mouse. The place is where SetCursorPos put it, for the whole process.
-WINUSERAPI BOOL WINAPI GetCursorPos(LPPOINT point);
-WINUSERAPI BOOL WINAPI SetCursorPos(int x, int y);
 
 // Messages.
 WINUSERAPI LRESULT WINAPI SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

@@ -68,7 +68,6 @@ void AskForHelp(HWND handle) {
     info.iContextType = HELPINFO_WINDOW;
     info.iCtrlId = GetDlgCtrlID(handle);
     info.hItemHandle = handle;
-    GetCursorPos(&info.MousePos);
     SendMessageA(handle, WM_HELP, 0, reinterpret_cast<LPARAM>(&info));
 }
 

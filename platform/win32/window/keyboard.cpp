@@ -1,12 +1,8 @@
 #include <cstring>
-#include <mutex>
 
 #include "queue.h"
 
 namespace {
-
-std::mutex cursor_mutex;
-POINT cursor_place;
 
 struct ShiftedKey {
     WPARAM key;
@@ -56,19 +52,6 @@ SHORT WINAPI GetKeyState(int key) {
 BOOL WINAPI SetKeyboardState(BYTE* keys) {
     if (!keys) return FALSE;
     std::memcpy(CurrentQueue().keys, keys, sizeof CurrentQueue().keys);
-    return TRUE;
-}
-
-BOOL WINAPI GetCursorPos(LPPOINT point) {
-    if (!point) return FALSE;
-    const std::lock_guard lock(cursor_mutex);
-    *point = cursor_place;
-    return TRUE;
-}
-
-BOOL WINAPI SetCursorPos(int x, int y) {
-    const std::lock_guard lock(cursor_mutex);
-    cursor_place = {x, y};
     return TRUE;
 }
 

@@ -110,7 +110,6 @@ MSG NewMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     made.wParam = wParam;
     made.lParam = lParam;
     made.time = GetTickCount();
-    GetCursorPos(&made.pt);
     return made;
 }
 

@@ -52,6 +52,19 @@ for source in "${all_sources[@]}"; do
     grep -m1 '^#include' "$source" | grep -qE "[\"/<]$(basename "$header")[\">]" || echo "$source"
 done | report 'a source includes its own header first'
 
+# Published headers declare calls as "...API type WINAPI Name(" or, in the run-time library, without WINAPI.
+published=(platform/win32/include/{commctrl,commdlg,crt_text,direct,fileapi,io,process,winbase,winerror,wingdi,winuser,winuser_calls}.h)
+mapfile -t calling < <(list "$sources" src platform/mfc platform/win32 tests demo bench | grep -v '^platform/win32/include/')
+known=$(cat platform/README.md)
+used=$(grep -ohE '&?\b[A-Za-z_][A-Za-z_0-9]*' "${calling[@]}" | sort | uniq -c)
+grep -ohE '^WIN[A-Z]+API [^(]*\b[A-Za-z_0-9]+\(' "${published[@]}" | sed -E 's/.*[ *]([A-Za-z_0-9]+)\($/\1/' | sort -u |
+    while read -r call; do
+        [[ $known == *"\`$call\`"* ]] || echo "$call: not in platform/README.md"
+        # Its definition is one use.
+        count=$(awk -v call="$call" '$2 == call || $2 == "&" call { sum += $1 } END { print sum + 0 }' <<<"$used")
+        ((count > 1)) || echo "$call: nothing calls it"
+    done | report 'the calls of the stand-in are listed and used'
+
 grep -nE '#include "(\.\.|/|cli/|host/|tests/|fuzz/|bench/)' "${product[@]}" |
     report 'the product knows nothing outside src/'
 

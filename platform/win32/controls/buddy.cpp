@@ -41,7 +41,7 @@ Watch FindWatch(HWND buddy, bool last) {
 LRESULT CALLBACK BuddyProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     const Watch watch = FindWatch(window, message == WM_NCDESTROY);
     if (message == WM_KEYDOWN && watch.listener && (wParam == VK_UP || wParam == VK_DOWN)) {
-        return SendMessageA(watch.listener, message, wParam, lParam);
+        return SendMessageA(watch.listener, kBuddyKey, wParam, lParam);
     }
     if (message == WM_NCDESTROY && ProcedureOf(window) == BuddyProcedure) SetProcedure(window, watch.former);
     return CallWindowProcA(watch.former, window, message, wParam, lParam);

@@ -180,7 +180,8 @@ void EditControl::ScrollLinesToCaret() {
     }
     if (!HasStyle(ES_AUTOHSCROLL)) return;
     const int width = format_.right - format_.left;
-    const int x = PlaceOf(line, text_.Caret()).x - format_.left;
+    // Not `line`: whoever was told of the scrolling may have changed the text.
+    const int x = PlaceOf(CaretLine(), text_.Caret()).x - format_.left;
     if (x < 0) {
         SetScrolled(scrolled_ + x - width / kScrollFraction);
     } else if (x > width) {
@@ -223,9 +224,13 @@ void EditControl::ScrollByBar(int code, int thumb) {
     }
 }
 
+// No line is longer.
+constexpr int kFarthest = 0x8000;
+
 LRESULT EditControl::ScrollBy(int characters, int lines) {
     if (!multi_line_) return FALSE;
-    if (characters != 0) SetScrolled(scrolled_ + characters * character_width_);
+    if (characters != 0)
+        SetScrolled(scrolled_ + std::clamp(characters, -kFarthest, kFarthest) * character_width_);
     SetFirstLine(static_cast<long long>(first_line_) + lines);
     return TRUE;
 }

@@ -9,7 +9,7 @@ LRESULT ListBox::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     if (const auto result = InputMessage(message, wParam, lParam)) return *result;
     switch (message) {
         case WM_NCCREATE:
-            items_ = ListItems((reinterpret_cast<const CREATESTRUCTA*>(lParam)->style & LBS_SORT) != 0);
+            items_ = ListItems(HasStyle(LBS_SORT));
             row_height_ = 16;
             return TextControl::Handle(message, wParam, lParam);
         case WM_CREATE:
@@ -153,8 +153,8 @@ void ListBox::Follow(POINT point) {
     if (!pressed && !InCombo()) return;
     const RECT client = ClientArea();
     if (pressed) {
-        point.x = std::clamp(point.x, client.left, client.right - 1);
-        point.y = std::clamp(point.y, client.top, client.bottom - 1);
+        point.x = std::clamp(point.x, client.left, std::max(client.left, client.right - 1));
+        point.y = std::clamp(point.y, client.top, std::max(client.top, client.bottom - 1));
     }
     const int row = RowAt(point);
     if (row != -1) Select(row);

@@ -58,6 +58,7 @@ LRESULT UpDown::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_ERASEBKGND: return 1;
         case WM_PAINT: Paint(); return 0;
         case WM_ENABLE: Redraw(); return 0;
+        case kBuddyKey:
         case WM_KEYDOWN:
             if (!HasStyle(UDS_ARROWKEYS)) break;
             if (wParam == VK_UP) Step(Arrow::kUp);

@@ -17,7 +17,7 @@ constexpr size_t kLongestTemplate = 0x10000;
 
 struct States {
     std::mutex mutex;
-    std::unordered_map<HWND, std::unique_ptr<DialogState>> by_window;
+    std::unordered_map<HWND, std::shared_ptr<DialogState>> by_window;
 };
 
 States& TheStates() {
@@ -54,7 +54,8 @@ SIZE UnitsOf(HWND window, HFONT font) {
 }
 
 LONG Scale(LONG units, LONG pixels, LONG per) {
-    return (units * pixels + per / 2) / per;
+    const int64_t scaled = (int64_t{units} * pixels + per / 2) / per;
+    return static_cast<LONG>(std::clamp<int64_t>(scaled, -0x8000, 0x7fff));
 }
 
 RECT ToPixels(const RECT& units, const SIZE& base) {
@@ -118,7 +119,7 @@ void FirstFocus(HWND dialog, LPARAM parameter) {
         return;
     HWND wanted = GetNextDlgTabItem(dialog, nullptr, FALSE);
     if (!wanted) return;
-    DialogState* const state = DialogStateOf(dialog);
+    const std::shared_ptr<DialogState> state = DialogStateOf(dialog);
     if (IsWindowVisible(dialog))
         SendMessageA(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(wanted), TRUE);
     else if (state)
@@ -127,24 +128,24 @@ void FirstFocus(HWND dialog, LPARAM parameter) {
 
 }  // namespace
 
-DialogState* DialogStateOf(HWND dialog) {
+std::shared_ptr<DialogState> DialogStateOf(HWND dialog) {
     States& states = TheStates();
     const std::lock_guard lock(states.mutex);
     const auto found = states.by_window.find(dialog);
-    return found == states.by_window.end() ? nullptr : found->second.get();
+    return found == states.by_window.end() ? nullptr : found->second;
 }
 
-DialogState& MakeDialogState(HWND dialog) {
+std::shared_ptr<DialogState> MakeDialogState(HWND dialog) {
     States& states = TheStates();
     const std::lock_guard lock(states.mutex);
     auto& state = states.by_window[dialog];
-    if (!state) state = std::make_unique<DialogState>();
-    return *state;
+    if (!state) state = std::make_shared<DialogState>();
+    return state;
 }
 
 void ForgetDialogState(HWND dialog) {
     States& states = TheStates();
-    std::unique_ptr<DialogState> gone;
+    std::shared_ptr<DialogState> gone;
     const std::lock_guard lock(states.mutex);
     const auto found = states.by_window.find(dialog);
     if (found == states.by_window.end()) return;
@@ -178,7 +179,8 @@ HWND WINAPI CreateDialogIndirectParamA(HINSTANCE module, LPCDLGTEMPLATE bytes, H
         if (font) DeleteObject(font);
         return nullptr;
     }
-    DialogState& state = MakeDialogState(dialog);
+    const std::shared_ptr<DialogState> kept = MakeDialogState(dialog);
+    DialogState& state = *kept;
     state.font = font;
     state.units = units;
     SetWindowLongPtrA(dialog, DWLP_DLGPROC, reinterpret_cast<LONG_PTR>(procedure));
@@ -194,7 +196,7 @@ HWND WINAPI CreateDialogIndirectParamA(HINSTANCE module, LPCDLGTEMPLATE bytes, H
 }
 
 BOOL WINAPI MapDialogRect(HWND dialog, LPRECT rect) {
-    const DialogState* const state = DialogStateOf(dialog);
+    const std::shared_ptr<DialogState> state = DialogStateOf(dialog);
     if (!state || !rect) return FALSE;
     *rect = ToPixels(*rect, state->units);
     return TRUE;

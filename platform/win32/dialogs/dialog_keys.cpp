@@ -30,7 +30,7 @@ void Collect(HWND parent, std::vector<HWND>& controls) {
 // The control of the dialog that holds a window, such as the edit in a combo box.
 HWND ControlOf(HWND dialog, HWND window) {
     while (window && window != dialog) {
-        const HWND parent = GetParent(window);
+        const HWND parent = GetAncestor(window, GA_PARENT);
         if (parent == dialog || IsContainer(parent)) return window;
         window = parent;
     }

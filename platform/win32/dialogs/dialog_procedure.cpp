@@ -28,7 +28,7 @@ void FocusControl(HWND dialog, HWND control) {
     if (!control) return;
     if (SendMessageA(control, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) SendMessageA(control, EM_SETSEL, 0, -1);
     SetFocus(control);
-    DialogState* const state = DialogStateOf(dialog);
+    const std::shared_ptr<DialogState> state = DialogStateOf(dialog);
     if (!state) return;
     // The button with the focus is the one that Return means, as long as it has it.
     for (HWND child = GetWindow(dialog, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
@@ -98,7 +98,8 @@ LRESULT DialogDefault(HWND dialog, DialogState& state, UINT message, WPARAM wPar
 }  // namespace
 
 LRESULT WINAPI DefDlgProcA(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
-    DialogState& state = MakeDialogState(dialog);
+    const std::shared_ptr<DialogState> kept = MakeDialogState(dialog);
+    DialogState& state = *kept;
     const auto procedure = reinterpret_cast<DLGPROC>(GetWindowLongPtrA(dialog, DWLP_DLGPROC));
     if (procedure) {
         SetWindowLongPtrA(dialog, DWLP_MSGRESULT, 0);
@@ -127,7 +128,7 @@ void RegisterDialogClass() {
 }
 
 BOOL WINAPI EndDialog(HWND dialog, INT_PTR result) {
-    DialogState* const state = DialogStateOf(dialog);
+    const std::shared_ptr<DialogState> state = DialogStateOf(dialog);
     if (!state) return FALSE;
     state->ended = true;
     state->result = result;
@@ -150,7 +151,7 @@ INT_PTR WINAPI DialogBoxIndirectParamA(HINSTANCE module, LPCDLGTEMPLATE bytes, H
     const bool disable = top && IsWindowEnabled(top);
     if (disable) EnableWindow(top, FALSE);
     const HWND dialog = CreateDialogIndirectParamA(module, bytes, top, procedure, parameter);
-    DialogState* const state = dialog ? DialogStateOf(dialog) : nullptr;
+    const std::shared_ptr<DialogState> state = dialog ? DialogStateOf(dialog) : nullptr;
     if (!state) {
         if (disable) EnableWindow(top, TRUE);
         return -1;

@@ -19,7 +19,8 @@ struct DialogState {
     INT_PTR result = 0;
 };
 
-// Null for a window that is no dialog.
-DialogState* DialogStateOf(HWND dialog);
-DialogState& MakeDialogState(HWND dialog);
+// Null for a window that is no dialog. Who calls a handler holds on to the state, as it may destroy the
+// dialog.
+std::shared_ptr<DialogState> DialogStateOf(HWND dialog);
+std::shared_ptr<DialogState> MakeDialogState(HWND dialog);
 void ForgetDialogState(HWND dialog);

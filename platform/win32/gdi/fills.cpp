@@ -4,6 +4,7 @@
 
 #include "../errors.h"
 #include "context.h"
+#include "wrapping.h"
 
 // Rectangles: filled, framed, inverted, and the edges of the classic look.
 
@@ -22,17 +23,19 @@ struct EdgeColors {
 void DrawSides(const DeviceContext& dc, const RECT& rect, UINT flags, EdgeColors colors) {
     const uint32_t light = SystemColor(colors.topLeft);
     const uint32_t dark = SystemColor(colors.bottomRight);
-    if (flags & BF_TOP) FillClipped(dc, {rect.left, rect.top, rect.right, rect.top + 1}, light);
-    if (flags & BF_LEFT) FillClipped(dc, {rect.left, rect.top, rect.left + 1, rect.bottom}, light);
-    if (flags & BF_RIGHT) FillClipped(dc, {rect.right - 1, rect.top, rect.right, rect.bottom}, dark);
-    if (flags & BF_BOTTOM) FillClipped(dc, {rect.left, rect.bottom - 1, rect.right, rect.bottom}, dark);
+    if (flags & BF_TOP) FillClipped(dc, {rect.left, rect.top, rect.right, Sum(rect.top, 1)}, light);
+    if (flags & BF_LEFT) FillClipped(dc, {rect.left, rect.top, Sum(rect.left, 1), rect.bottom}, light);
+    if (flags & BF_RIGHT)
+        FillClipped(dc, {Difference(rect.right, 1), rect.top, rect.right, rect.bottom}, dark);
+    if (flags & BF_BOTTOM)
+        FillClipped(dc, {rect.left, Difference(rect.bottom, 1), rect.right, rect.bottom}, dark);
 }
 
 void Shrink(RECT& rect, UINT flags) {
-    if (flags & BF_LEFT) ++rect.left;
-    if (flags & BF_TOP) ++rect.top;
-    if (flags & BF_RIGHT) --rect.right;
-    if (flags & BF_BOTTOM) --rect.bottom;
+    if (flags & BF_LEFT) rect.left = Sum(rect.left, 1);
+    if (flags & BF_TOP) rect.top = Sum(rect.top, 1);
+    if (flags & BF_RIGHT) rect.right = Difference(rect.right, 1);
+    if (flags & BF_BOTTOM) rect.bottom = Difference(rect.bottom, 1);
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 #include "queue.h"
+#include "wrapping.h"
 
 namespace {
 
@@ -36,7 +37,7 @@ BOOL WINAPI SetCaretPos(int x, int y) {
     ThreadQueue& queue = CurrentQueue();
     if (!queue.caret_window) return FALSE;
     Flip(queue);
-    OffsetRect(&queue.caret, x - queue.caret.left, y - queue.caret.top);
+    OffsetRect(&queue.caret, Difference(x, queue.caret.left), Difference(y, queue.caret.top));
     Flip(queue);
     return TRUE;
 }

@@ -21,8 +21,10 @@ void CompleteStyles(DWORD& style, DWORD& extended_style) {
 void Place(CREATESTRUCTA& create) {
     if (create.x == CW_USEDEFAULT) create.x = create.y = 0;
     if (create.cx == CW_USEDEFAULT) create.cx = create.cy = kDefaultSize;
-    create.cx = std::max(create.cx, 0);
-    create.cy = std::max(create.cy, 0);
+    create.x = PlaceInRange(create.x);
+    create.y = PlaceInRange(create.y);
+    create.cx = SizeInRange(create.cx);
+    create.cy = SizeInRange(create.cy);
 }
 
 // Where the coordinates of a child begin.
@@ -112,9 +114,12 @@ void AskSize(const WindowRef& window, const CREATESTRUCTA& create) {
 // The messages of creation. False when one of them refuses.
 bool Announce(const WindowRef& window, CREATESTRUCTA& create) {
     AskSize(window, create);
+    if (!StillThere(window->handle)) return false;
     const LPARAM record = reinterpret_cast<LPARAM>(&create);
     if (!CallProcedure(*window, WM_NCCREATE, 0, record)) return false;
+    if (!StillThere(window->handle)) return false;
     SizeByFrame(window);
+    if (!StillThere(window->handle)) return false;
     if (CallProcedure(*window, WM_CREATE, 0, record) == -1) return false;
     return StillThere(window->handle);
 }
@@ -138,7 +143,7 @@ HWND WINAPI CreateWindowExA(DWORD extendedStyle, LPCSTR className, LPCSTR text, 
     WindowRef parent;
     if (parentHandle && parentHandle != kDesktopWindow) {
         parent = FindWindowRef(parentHandle);
-        if (!parent) return nullptr;
+        if (!parent || parent->ending) return nullptr;
     } else if (style & WS_CHILD && parentHandle != kDesktopWindow) {
         SetLastError(ERROR_TLW_WITH_WSCHILD);
         return nullptr;
@@ -154,7 +159,7 @@ HWND WINAPI CreateWindowExA(DWORD extendedStyle, LPCSTR className, LPCSTR text, 
     CBT_CREATEWNDA hooked = {&create, nullptr};
     const bool forbidden =
         HookForbids(HCBT_CREATEWND, reinterpret_cast<WPARAM>(handle), reinterpret_cast<LPARAM>(&hooked));
-    if (forbidden || !Announce(window, create)) {
+    if (forbidden || !StillThere(handle) || !Announce(window, create)) {
         if (StillThere(handle)) DestroyWindow(handle);
         return nullptr;
     }
@@ -197,16 +202,16 @@ void SendDestroy(HWND window) {
 
 // Children go before their parent.
 void Finish(HWND handle) {
+    if (const WindowRef window = FindWindowRef(handle)) {
+        const std::lock_guard lock(WindowMutex());
+        window->ending = true;
+    }
     for (HWND const child : ChildrenOf(handle))
         Finish(child);
     const WindowRef window = FindWindowRef(handle);
     if (!window) return;
     CallProcedure(*window, WM_NCDESTROY, 0, 0);
     ForgetFocus(handle);
-    {
-        const std::lock_guard lock(WindowMutex());
-        ForgetPaint(*window);
-    }
     ThreadQueue& queue = CurrentQueue();
     if (queue.caret_window == handle) queue.caret_window = nullptr;
     RemoveWindow(*window);
@@ -223,6 +228,7 @@ BOOL WINAPI DestroyWindow(HWND handle) {
     }
     if (window->destroying == kNestedDestructions) return FALSE;
     if (HookForbids(HCBT_DESTROYWND, reinterpret_cast<WPARAM>(handle), 0)) return FALSE;
+    if (!IsWindow(handle)) return FALSE;
     {
         const std::lock_guard lock(WindowMutex());
         ++window->destroying;
@@ -238,18 +244,4 @@ BOOL WINAPI DestroyWindow(HWND handle) {
     if (IsWindow(handle)) SendDestroy(handle);
     if (IsWindow(handle)) Finish(handle);
     return TRUE;
-}
-
-void RemoveWindowsOfThread(DWORD thread) {
-    std::vector<WindowRef> gone;
-    for (HWND const handle : ChildrenOf(nullptr)) {
-        const WindowRef window = FindWindowRef(handle);
-        if (window && window->thread == thread) gone.push_back(window);
-    }
-    // Children follow their parents in the list, and leave before them.
-    for (size_t i = 0; i < gone.size(); ++i)
-        for (HWND const child : ChildrenOf(gone[i]->handle))
-            if (const WindowRef window = FindWindowRef(child)) gone.push_back(window);
-    for (auto at = gone.rbegin(); at != gone.rend(); ++at)
-        RemoveWindow(**at);
 }

@@ -89,6 +89,7 @@ LRESULT SetRedraw(Window& window, bool redraw) {
 }
 
 LRESULT CalculateSize(Window& window, LPARAM lParam) {
+    if (!lParam) return 0;
     // Both forms of the message begin with the window's rectangle.
     RECT& rect = *reinterpret_cast<RECT*>(lParam);
     rect = CalculateClient(window, rect);
@@ -104,7 +105,7 @@ LRESULT ExchangeIcon(Window& window, HICON icon) {
 bool FrameMessage(HWND handle, Window& window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
     switch (message) {
         case WM_NCCREATE:
-            TakeText(handle, window, reinterpret_cast<const CREATESTRUCTA*>(lParam)->lpszName);
+            if (lParam) TakeText(handle, window, reinterpret_cast<const CREATESTRUCTA*>(lParam)->lpszName);
             result = TRUE;
             return true;
         case WM_NCCALCSIZE: result = CalculateSize(window, lParam); return true;
@@ -125,7 +126,7 @@ bool FrameMessage(HWND handle, Window& window, UINT message, WPARAM wParam, LPAR
         case WM_GETICON: result = reinterpret_cast<LRESULT>(window.icon); return true;
         case WM_SETREDRAW: result = SetRedraw(window, wParam != 0); return true;
         case WM_WINDOWPOSCHANGED:
-            TellNewPlace(handle, *reinterpret_cast<const WINDOWPOS*>(lParam));
+            if (lParam) TellNewPlace(handle, *reinterpret_cast<const WINDOWPOS*>(lParam));
             return true;
         default: return false;
     }

@@ -5,6 +5,7 @@
 #include "desktop.h"
 #include "scroll_bars.h"
 #include "window.h"
+#include "wrapping.h"
 
 namespace {
 
@@ -98,10 +99,10 @@ RECT FrameInsets(DWORD style, DWORD extended_style) {
 
 RECT CalculateClient(const Window& window, const RECT& rect) {
     const RECT insets = FrameInsets(window.style, window.extended_style);
-    RECT client = {rect.left + insets.left, rect.top + insets.top, rect.right - insets.right,
-                   rect.bottom - insets.bottom};
-    if (window.style & WS_VSCROLL) client.right -= GetSystemMetrics(SM_CXVSCROLL);
-    if (window.style & WS_HSCROLL) client.bottom -= GetSystemMetrics(SM_CYHSCROLL);
+    RECT client = {Sum(rect.left, insets.left), Sum(rect.top, insets.top),
+                   Difference(rect.right, insets.right), Difference(rect.bottom, insets.bottom)};
+    if (window.style & WS_VSCROLL) client.right = Difference(client.right, GetSystemMetrics(SM_CXVSCROLL));
+    if (window.style & WS_HSCROLL) client.bottom = Difference(client.bottom, GetSystemMetrics(SM_CYHSCROLL));
     client.right = std::max(client.right, client.left);
     client.bottom = std::max(client.bottom, client.top);
     return client;
@@ -110,8 +111,8 @@ RECT CalculateClient(const Window& window, const RECT& rect) {
 BOOL WINAPI AdjustWindowRectEx(LPRECT rect, DWORD style, BOOL, DWORD extendedStyle) {
     if (!rect) return FALSE;
     const RECT insets = FrameInsets(style, extendedStyle);
-    *rect = {rect->left - insets.left, rect->top - insets.top, rect->right + insets.right,
-             rect->bottom + insets.bottom};
+    *rect = {Difference(rect->left, insets.left), Difference(rect->top, insets.top),
+             Sum(rect->right, insets.right), Sum(rect->bottom, insets.bottom)};
     return TRUE;
 }
 

@@ -56,6 +56,7 @@ BOOL WINAPI SetKeyboardState(BYTE* keys) {
 }
 
 BOOL WINAPI TranslateMessage(const MSG* message) {
+    if (!message) return FALSE;
     const bool system = message->message == WM_SYSKEYDOWN;
     const bool key = message->message == WM_KEYDOWN || message->message == WM_KEYUP || system ||
                      message->message == WM_SYSKEYUP;

@@ -68,10 +68,13 @@ Region VisibleRegion(Window& window, bool whole) {
     return region;
 }
 
+// What lies beyond is not drawn: a window may be much larger than any screen.
+constexpr int kLongestSurface = 4096;
+
 void FitSurface(Window& window) {
     if (window.parent) return;
-    const int width = std::max<int>(window.rect.right - window.rect.left, 1);
-    const int height = std::max<int>(window.rect.bottom - window.rect.top, 1);
+    const int width = std::clamp<int>(window.rect.right - window.rect.left, 1, kLongestSurface);
+    const int height = std::clamp<int>(window.rect.bottom - window.rect.top, 1, kLongestSurface);
     if (window.surface && window.surface->width == width && window.surface->height == height) return;
     auto fitted = std::make_shared<Surface>(width, height);
     if (window.surface) {
@@ -180,6 +183,8 @@ HDC WINAPI BeginPaint(HWND handle, LPPAINTSTRUCT paint) {
     if (frame) SendMessageA(handle, WM_NCPAINT, 1, 0);
     {
         const std::lock_guard lock(WindowMutex());
+        // Painting the frame may have destroyed it.
+        if (!FindWindowLocked(handle)) return nullptr;
         part.Intersect(VisibleRegion(*window, false));
         TakeFromParents(*window, part);
         paint->rcPaint = part.Bounds();
@@ -191,9 +196,10 @@ HDC WINAPI BeginPaint(HWND handle, LPPAINTSTRUCT paint) {
 }
 
 BOOL WINAPI EndPaint(HWND handle, const PAINTSTRUCT* paint) {
-    if (!paint || !IsWindow(handle)) return FALSE;
+    if (!paint) return FALSE;
+    // The window may be gone, its context is not.
     ReleaseDC(handle, paint->hdc);
-    return TRUE;
+    return IsWindow(handle);
 }
 
 // ---- Invalid parts. ----
@@ -262,6 +268,8 @@ BOOL WINAPI GetUpdateRect(HWND handle, LPRECT rect, BOOL) {
 BOOL WINAPI ScrollWindow(HWND handle, int dx, int dy, const RECT* rect, const RECT* clip) {
     const WindowRef window = FindWindowRef(handle);
     if (!window) return FALSE;
+    dx = PlaceInRange(dx);
+    dy = PlaceInRange(dy);
     std::vector<HWND> moved;
     {
         const std::lock_guard lock(WindowMutex());
@@ -269,6 +277,7 @@ BOOL WINAPI ScrollWindow(HWND handle, int dx, int dy, const RECT* rect, const RE
         if (rect) area.Intersect(OnScreen(*window, rect));
         if (clip) area.Intersect(OnScreen(*window, clip));
         Window& root = RootOf(*window);
+        if (!root.surface) return FALSE;
         Region on_surface = area;
         on_surface.Offset(-root.rect.left, -root.rect.top);
         Region exposed = ScrollSurface(*root.surface, on_surface, dx, dy);

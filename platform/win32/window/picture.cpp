@@ -13,6 +13,7 @@ std::vector<unsigned char> PixelsOf(Window& window, int& width, int& height) {
     const std::lock_guard lock(WindowMutex());
     const Window& root = RootOf(window);
     const std::lock_guard drawing(DrawingMutex());
+    if (!root.surface) return {};
     const Surface& surface = *root.surface;
     const int left = std::clamp<int>(window.rect.left - root.rect.left, 0, surface.width);
     const int top = std::clamp<int>(window.rect.top - root.rect.top, 0, surface.height);

@@ -162,17 +162,23 @@ void OffsetWindow(Window& window, int dx, int dy) {
 BOOL WINAPI SetWindowPos(HWND handle, HWND after, int x, int y, int width, int height, UINT flags) {
     const WindowRef window = FindWindowRef(handle);
     if (!window) return FALSE;
-    WINDOWPOS place = {handle, after, x, y, std::max(width, 0), std::max(height, 0), flags};
+    WINDOWPOS place = {handle, after, x, y, width, height, flags};
     // What needs no change of order keeps it: the window is there already.
     if (!(place.flags & SWP_NOZORDER) && after == handle) place.flags |= SWP_NOZORDER;
     if (!(place.flags & SWP_NOSENDCHANGING))
         SendMessageA(handle, WM_WINDOWPOSCHANGING, 0, reinterpret_cast<LPARAM>(&place));
     if (!IsWindow(handle)) return FALSE;
+    place.x = PlaceInRange(place.x);
+    place.y = PlaceInRange(place.y);
+    place.cx = SizeInRange(place.cx);
+    place.cy = SizeInRange(place.cy);
     Complete(*window, place);
     const Change change = {window->rect, window->client, (window->style & WS_VISIBLE) != 0};
     Move(window, place);
     {
         const std::lock_guard lock(WindowMutex());
+        // Whoever was asked for the client area may have destroyed it.
+        if (!FindWindowLocked(handle)) return FALSE;
         if (!(place.flags & SWP_NOZORDER)) {
             Reorder(*window, place.hwndInsertAfter);
             if (!window->parent) KeepOwnership(*window);

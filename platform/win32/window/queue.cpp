@@ -209,10 +209,11 @@ BOOL WINAPI PeekMessageA(LPMSG message, HWND window, UINT first, UINT last, UINT
     ThreadQueue& queue = CurrentQueue();
     std::unique_lock lock(WindowMutex());
     AnswerSentMessages(queue, lock);
-    return Take(queue, *message, window, first, last, (remove & PM_REMOVE) != 0);
+    return message && Take(queue, *message, window, first, last, (remove & PM_REMOVE) != 0);
 }
 
 BOOL WINAPI GetMessageA(LPMSG message, HWND window, UINT first, UINT last) {
+    if (!message) return -1;
     ThreadQueue& queue = CurrentQueue();
     std::unique_lock lock(WindowMutex());
     for (;;) {

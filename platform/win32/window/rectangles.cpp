@@ -1,6 +1,6 @@
 #include <windows.h>
 
-#include <algorithm>
+#include "wrapping.h"
 
 BOOL WINAPI SetRect(LPRECT rect, int left, int top, int right, int bottom) {
     if (!rect) return FALSE;
@@ -14,11 +14,13 @@ BOOL WINAPI PtInRect(const RECT* rect, POINT point) {
 }
 
 BOOL WINAPI OffsetRect(LPRECT rect, int dx, int dy) {
-    return rect && SetRect(rect, rect->left + dx, rect->top + dy, rect->right + dx, rect->bottom + dy);
+    return rect && SetRect(rect, Sum(rect->left, dx), Sum(rect->top, dy), Sum(rect->right, dx),
+                           Sum(rect->bottom, dy));
 }
 
 BOOL WINAPI InflateRect(LPRECT rect, int dx, int dy) {
-    return rect && SetRect(rect, rect->left - dx, rect->top - dy, rect->right + dx, rect->bottom + dy);
+    return rect && SetRect(rect, Difference(rect->left, dx), Difference(rect->top, dy), Sum(rect->right, dx),
+                           Sum(rect->bottom, dy));
 }
 
 BOOL WINAPI IsRectEmpty(const RECT* rect) {

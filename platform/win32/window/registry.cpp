@@ -56,12 +56,39 @@ WindowRef AddWindow() {
     return window;
 }
 
-void RemoveWindow(Window& window) {
-    const std::lock_guard lock(WindowMutex());
+namespace {
+
+void RemoveWindowLocked(Window& window) {
+    if (TheRegistry().windows.erase(window.handle) == 0) return;
+    window.ending = true;
+    ForgetPaint(window);
     std::vector<Window*>& siblings = SiblingsOf(window);
     siblings.erase(std::remove(siblings.begin(), siblings.end(), &window), siblings.end());
+    window.parent = nullptr;
     if (window.cls) --window.cls->windows;
-    TheRegistry().windows.erase(window.handle);
+}
+
+}  // namespace
+
+void RemoveWindow(Window& window) {
+    const std::lock_guard lock(WindowMutex());
+    RemoveWindowLocked(window);
+}
+
+void RemoveWindowsOfThread(DWORD thread) {
+    const std::lock_guard lock(WindowMutex());
+    const auto& windows = TheRegistry().windows;
+    std::vector<WindowRef> gone;
+    for (const auto& [handle, window] : windows)
+        if (window->thread == thread) gone.push_back(window);
+    // Children follow their parents in the list, and leave before them.
+    for (size_t i = 0; i < gone.size(); ++i) {
+        const WindowRef parent = gone[i];
+        for (const Window* const child : parent->children)
+            gone.push_back(windows.at(child->handle));
+    }
+    for (auto at = gone.rbegin(); at != gone.rend(); ++at)
+        RemoveWindowLocked(**at);
 }
 
 unsigned CountWindows() {

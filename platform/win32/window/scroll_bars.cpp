@@ -211,7 +211,7 @@ BOOL WINAPI GetScrollRange(HWND window, int bar, int* minimum, int* maximum) {
     info.cbSize = sizeof info;
     info.fMask = SIF_RANGE;
     if (!GetScrollInfo(window, bar, &info)) return FALSE;
-    *minimum = info.nMin;
-    *maximum = info.nMax;
+    if (minimum) *minimum = info.nMin;
+    if (maximum) *maximum = info.nMax;
     return TRUE;
 }

@@ -4,6 +4,7 @@
 
 #include "desktop.h"
 #include "window.h"
+#include "wrapping.h"
 
 namespace {
 
@@ -118,25 +119,25 @@ Window* TopmostAt(const std::vector<Window*>& windows, POINT point) {
 BOOL WINAPI ClientToScreen(HWND window, LPPOINT point) {
     POINT origin = {};
     if (!window || !point || !ClientOrigin(window, origin)) return FALSE;
-    *point = {point->x + origin.x, point->y + origin.y};
+    *point = {Sum(point->x, origin.x), Sum(point->y, origin.y)};
     return TRUE;
 }
 
 BOOL WINAPI ScreenToClient(HWND window, LPPOINT point) {
     POINT origin = {};
     if (!window || !point || !ClientOrigin(window, origin)) return FALSE;
-    *point = {point->x - origin.x, point->y - origin.y};
+    *point = {Difference(point->x, origin.x), Difference(point->y, origin.y)};
     return TRUE;
 }
 
 int WINAPI MapWindowPoints(HWND from, HWND to, LPPOINT points, UINT count) {
     POINT a = {};
     POINT b = {};
-    if (!ClientOrigin(from, a) || !ClientOrigin(to, b)) return 0;
-    const LONG dx = a.x - b.x;
-    const LONG dy = a.y - b.y;
+    if (!points || !ClientOrigin(from, a) || !ClientOrigin(to, b)) return 0;
+    const LONG dx = Difference(a.x, b.x);
+    const LONG dy = Difference(a.y, b.y);
     for (UINT i = 0; i < count; ++i)
-        points[i] = {points[i].x + dx, points[i].y + dy};
+        points[i] = {Sum(points[i].x, dx), Sum(points[i].y, dy)};
     return MAKELONG(dx, dy);
 }
 

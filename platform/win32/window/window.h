@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -50,8 +51,9 @@ struct Window {
     HICON icon = nullptr;
     ScrollState bars[2];  // SB_HORZ, SB_VERT
     bool active_frame = false;
-    bool redraw = true;  // WM_SETREDRAW
-    int destroying = 0;  // calls of DestroyWindow that are at work on it
+    bool redraw = true;   // WM_SETREDRAW
+    bool ending = false;  // its last messages are sent: it takes no more children
+    int destroying = 0;   // calls of DestroyWindow that are at work on it
 
     // What must be painted: the invalid part of the client area in screen coordinates, whether it is to be
     // erased, and whether the frame is to be drawn.
@@ -101,6 +103,14 @@ void FrameButtonDown(HWND window, WPARAM hit, POINT screen);
 // Flags of a WINDOWPOS that tell that the client area kept its size, or its place.
 inline constexpr UINT kNoClientSize = 0x0800;
 inline constexpr UINT kNoClientMove = 0x1000;
+
+// Places and sizes have 16 bits, as in the messages that tell them.
+inline int PlaceInRange(int place) {
+    return std::clamp(place, -32768, 32767);
+}
+inline int SizeInRange(int size) {
+    return std::clamp(size, 0, 32767);
+}
 
 // The foremost place that a window can have among its siblings: topmost ones stand in front of the others.
 std::vector<Window*>::iterator FrontPlace(const Window& window, std::vector<Window*>& siblings);

@@ -34,11 +34,21 @@ LONG_PTR GetWord(Window& window, int index, size_t size) {
     return value;
 }
 
+// A top-level window is owned by another one, and never by itself in the end.
+void SetOwner(Window& window, HWND named) {
+    const WindowRef found = named ? FindWindowLocked(named) : nullptr;
+    if (window.parent || (named && !found)) return;
+    Window* const owner = found ? &RootOf(*found) : nullptr;
+    for (const Window* at = owner; at; at = at->owner ? FindWindowLocked(at->owner).get() : nullptr)
+        if (at == &window) return;
+    window.owner = owner ? owner->handle : nullptr;
+}
+
 void PutWord(Window& window, int index, LONG_PTR value, size_t size) {
     switch (index) {
         case GWLP_WNDPROC: window.procedure = reinterpret_cast<WNDPROC>(value); return;
         case GWLP_HINSTANCE: window.module = reinterpret_cast<HINSTANCE>(value); return;
-        case GWLP_HWNDPARENT: window.owner = reinterpret_cast<HWND>(value); return;
+        case GWLP_HWNDPARENT: SetOwner(window, reinterpret_cast<HWND>(value)); return;
         case GWLP_ID: window.id = value; return;
         case GWLP_USERDATA: window.user_data = value; return;
         default: break;

@@ -247,4 +247,15 @@ TEST(Dialog, QuittingEndsModalDialogs) {
     EXPECT_EQ(message.wParam, 9u);
 }
 
+INT_PTR CALLBACK DestroyAtFont(HWND window, UINT message, WPARAM, LPARAM) {
+    if (message == WM_SETFONT) DestroyWindow(window);
+    return FALSE;
+}
+
+TEST(Dialog, DestroyedWhileItIsMade) {
+    EXPECT_EQ(CreateDialogIndirectParamA(GetModuleHandleA(nullptr), DialogResource(100), nullptr,
+                                         &DestroyAtFont, 0),
+              nullptr);
+}
+
 }  // namespace

@@ -177,4 +177,11 @@ TEST_F(UpDownTest, BuddyThatWasSubclassedAgainStaysWhole) {
     EXPECT_FALSE(IsWindow(edit_));
 }
 
+// Arrow keys of the buddy come back to where they began.
+TEST_F(UpDownTest, MayBeItsOwnBuddy) {
+    SendMessageA(spin_, UDM_SETBUDDY, reinterpret_cast<WPARAM>(spin_), 0);
+    SendMessageA(spin_, WM_KEYDOWN, VK_UP, 1);
+    EXPECT_TRUE(IsWindow(spin_));
+}
+
 }  // namespace

@@ -50,8 +50,8 @@ void SizeByFrame(const WindowRef& window) {
     CallProcedure(*window, WM_NCCALCSIZE, FALSE, reinterpret_cast<LPARAM>(&frame));
     const std::lock_guard lock(WindowMutex());
     const POINT origin = OriginOf(window->parent);
-    OffsetRect(&frame, origin.x, origin.y);
-    window->client = frame;
+    window->client = ClientInRange(frame);
+    OffsetRect(&window->client, origin.x, origin.y);
     FitSurface(*window);
 }
 

@@ -116,7 +116,7 @@ void Move(const WindowRef& window, const WINDOWPOS& place) {
     CallProcedure(*window, WM_NCCALCSIZE, TRUE, reinterpret_cast<LPARAM>(&sizes));
     const std::lock_guard lock(WindowMutex());
     window->rect = wanted;
-    window->client = sizes.rgrc[0];
+    window->client = ClientInRange(sizes.rgrc[0]);
     OffsetRect(&window->client, origin.x, origin.y);
     FitSurface(*window);
 }

@@ -50,7 +50,8 @@ BarParts PartsOf(const RECT& bar, const ScrollState& state, bool vertical) {
     const int64_t thumb = state.page > 0 ? std::max<int64_t>(room * state.page / span, kLeastThumb)
                                          : std::min<int64_t>(arrow, room);
     parts.thumb = parts.shaft;
-    parts.thumb.*start += static_cast<LONG>((room - thumb) * (state.position - state.minimum) / steps);
+    parts.thumb.*start +=
+        static_cast<LONG>((room - thumb) * (int64_t{state.position} - state.minimum) / steps);
     parts.thumb.*end = parts.thumb.*start + static_cast<LONG>(thumb);
     return parts;
 }

@@ -112,6 +112,12 @@ inline int SizeInRange(int size) {
     return std::clamp(size, 0, 32767);
 }
 
+// What a handler of WM_NCCALCSIZE may have made of a client area.
+inline RECT ClientInRange(const RECT& client) {
+    const auto in_range = [](LONG at) { return std::clamp<LONG>(at, -0x10000, 0x10000); };
+    return {in_range(client.left), in_range(client.top), in_range(client.right), in_range(client.bottom)};
+}
+
 // The foremost place that a window can have among its siblings: topmost ones stand in front of the others.
 std::vector<Window*>::iterator FrontPlace(const Window& window, std::vector<Window*>& siblings);
 

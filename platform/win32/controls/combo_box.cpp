@@ -78,7 +78,7 @@ void ComboBox::CreateParts() {
 
 // The height that is asked for is that of the open list; the closed one has that of its field.
 LRESULT ComboBox::Resize(const WINDOWPOS& place) {
-    if (!(place.flags & SWP_NOSIZE) && !resizing_) open_height_ = place.cy;
+    if (!(place.flags & SWP_NOSIZE) && !resizing_) open_height_ = std::max(place.cy, 0);
     return 0;
 }
 
@@ -107,7 +107,7 @@ LRESULT ComboBox::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     }
     switch (message) {
         case WM_CREATE:
-            open_height_ = reinterpret_cast<const CREATESTRUCTA*>(lParam)->cy;
+            open_height_ = std::max(reinterpret_cast<const CREATESTRUCTA*>(lParam)->cy, 0);
             CreateParts();
             // The bar is the list's.
             SetWindowLongA(Window(), GWL_STYLE, GetWindowLongA(Window(), GWL_STYLE) & ~WS_VSCROLL);

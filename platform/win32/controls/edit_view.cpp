@@ -5,7 +5,8 @@
 namespace {
 
 constexpr int kTabCharacters = 8;
-constexpr int kTabUnits = 4;        // of a character
+constexpr int kTabUnits = 4;          // of a character
+constexpr int kFarthestTab = 0x7fff;  // in these units
 constexpr int kScrollFraction = 3;  // of the width, that stays before or behind a caret that was scrolled to
 constexpr int kWheelStep = 120;
 constexpr int kWheelLines = 3;
@@ -47,7 +48,7 @@ void EditControl::UpdateLayout() {
     if (multi_line_) {
         std::vector<int> stops;
         for (const int stop : tab_stops_)
-            stops.push_back(stop * character_width_ / kTabUnits);
+            stops.push_back(std::clamp(stop, 0, kFarthestTab) * character_width_ / kTabUnits);
         // A single stop is meant for all.
         const int tab = stops.size() == 1 ? std::max(1, stops[0]) : kTabCharacters * character_width_;
         measure_.SetTabs(std::move(stops), tab);

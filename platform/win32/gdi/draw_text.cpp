@@ -8,6 +8,7 @@
 #include "../errors.h"
 #include "fonts.h"
 #include "text.h"
+#include "wrapping.h"
 
 // DrawText: text in a rectangle, in lines, with marked letters and tabs.
 
@@ -185,8 +186,8 @@ int WINAPI DrawTextA(HDC handle, LPCSTR text, int length, LPRECT rect, UINT form
     const int offset = centred ? (frame.bottom - frame.top) / 2 - block.LineHeight() / 2 : 0;
     const int height = offset + block.Height();
     if (format & DT_CALCRECT) {
-        rect->right = rect->left + block.Width();
-        rect->bottom = rect->top + height;
+        rect->right = Sum(rect->left, block.Width());
+        rect->bottom = Sum(rect->top, height);
     } else {
         block.Draw(frame, frame.top + offset, format & DT_NOCLIP ? nullptr : &frame);
     }

@@ -71,10 +71,12 @@ void TellParent(const Window& window) {
                  reinterpret_cast<LPARAM>(window.handle));
 }
 
+// Null when the parent is on its way out.
 WindowRef NewWindow(const std::shared_ptr<WindowClass>& cls, const CREATESTRUCTA& create,
                     const WindowRef& parent) {
-    WindowRef window = AddWindow();
     const std::lock_guard lock(WindowMutex());
+    if (parent && parent->ending) return nullptr;
+    WindowRef window = AddWindowLocked();
     window->cls = cls;
     ++cls->windows;
     window->procedure = cls->record.lpfnWndProc;
@@ -143,7 +145,7 @@ HWND WINAPI CreateWindowExA(DWORD extendedStyle, LPCSTR className, LPCSTR text, 
     WindowRef parent;
     if (parentHandle && parentHandle != kDesktopWindow) {
         parent = FindWindowRef(parentHandle);
-        if (!parent || parent->ending) return nullptr;
+        if (!parent) return nullptr;
     } else if (style & WS_CHILD && parentHandle != kDesktopWindow) {
         SetLastError(ERROR_TLW_WITH_WSCHILD);
         return nullptr;
@@ -155,6 +157,7 @@ HWND WINAPI CreateWindowExA(DWORD extendedStyle, LPCSTR className, LPCSTR text, 
         text,      className, extendedStyle};
     Place(create);
     const WindowRef window = NewWindow(cls, create, parent);
+    if (!window) return nullptr;
     const HWND handle = window->handle;
     CBT_CREATEWNDA hooked = {&create, nullptr};
     const bool forbidden =

@@ -46,9 +46,8 @@ WindowRef FindWindowRef(HWND handle) {
     return FindWindowLocked(handle);
 }
 
-WindowRef AddWindow() {
+WindowRef AddWindowLocked() {
     auto window = std::make_shared<Window>();
-    const std::lock_guard lock(WindowMutex());
     Registry& registry = TheRegistry();
     window->handle = reinterpret_cast<HWND>(registry.next);
     registry.next += kStep;

@@ -39,36 +39,36 @@ HWND WINAPI GetDesktopWindow() {
 }
 
 HWND WINAPI GetParent(HWND window) {
-    const WindowRef found = FindWindowRef(window);
-    if (!found) return nullptr;
     const std::lock_guard lock(WindowMutex());
+    const WindowRef found = FindWindowLocked(window);
+    if (!found) return nullptr;
     if (found->style & WS_CHILD) return found->parent ? found->parent->handle : kDesktopWindow;
     return found->style & static_cast<DWORD>(WS_POPUP) ? found->owner : nullptr;
 }
 
 HWND WINAPI GetAncestor(HWND window, UINT which) {
-    const WindowRef found = FindWindowRef(window);
-    if (!found) return nullptr;
     const std::lock_guard lock(WindowMutex());
+    const WindowRef found = FindWindowLocked(window);
+    if (!found) return nullptr;
     if (which == GA_PARENT) return found->parent ? found->parent->handle : kDesktopWindow;
     return RootOf(*found).handle;
 }
 
 HWND WINAPI GetWindow(HWND window, UINT relation) {
     if (window == kDesktopWindow) return relation == GW_CHILD ? TopLevel() : nullptr;
-    const WindowRef found = FindWindowRef(window);
-    if (!found) return nullptr;
     const std::lock_guard lock(WindowMutex());
+    const WindowRef found = FindWindowLocked(window);
+    if (!found) return nullptr;
     if (relation == GW_OWNER) return found->owner;
     if (relation == GW_CHILD) return found->children.empty() ? nullptr : found->children.front()->handle;
     return relation <= GW_HWNDPREV ? Neighbour(*found, relation) : nullptr;
 }
 
 BOOL WINAPI IsChild(HWND parent, HWND window) {
-    const WindowRef above = FindWindowRef(parent);
-    const WindowRef below = FindWindowRef(window);
-    if (!above || !below) return FALSE;
     const std::lock_guard lock(WindowMutex());
+    const WindowRef above = FindWindowLocked(parent);
+    const WindowRef below = FindWindowLocked(window);
+    if (!above || !below) return FALSE;
     return IsAncestor(above.get(), below.get());
 }
 

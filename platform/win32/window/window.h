@@ -84,7 +84,8 @@ bool IsShown(const Window& window);
 // All children of a window, as handles; safe to call back over.
 std::vector<HWND> ChildrenOf(HWND parent);
 
-WindowRef AddWindow();
+// To be called with the mutex held.
+WindowRef AddWindowLocked();
 void RemoveWindow(Window& window);
 unsigned CountWindows();
 

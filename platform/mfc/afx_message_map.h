@@ -6,13 +6,17 @@
 // The macros of message maps. A handler's arguments are taken out of the message here, in one place per
 // message.
 
-#define BEGIN_MESSAGE_MAP(theClass, baseClass)          \
-    const AFX_MSGMAP* theClass::GetMessageMap() const { \
-        return GetThisMessageMap();                     \
-    }                                                   \
-    const AFX_MSGMAP* theClass::GetThisMessageMap() {   \
-        using ThisClass [[maybe_unused]] = theClass;    \
-        using TheBaseClass = baseClass;                 \
+#define BEGIN_MESSAGE_MAP(theClass, baseClass) AFX_BEGIN_MAP(, theClass, baseClass)
+// Of a class template with one parameter, a type.
+#define BEGIN_TEMPLATE_MESSAGE_MAP(theClass, type_name, baseClass) \
+    AFX_BEGIN_MAP(template <class type_name>, theClass<type_name>, baseClass)
+#define AFX_BEGIN_MAP(head, theClass, baseClass)             \
+    head const AFX_MSGMAP* theClass::GetMessageMap() const { \
+        return GetThisMessageMap();                          \
+    }                                                        \
+    head const AFX_MSGMAP* theClass::GetThisMessageMap() {   \
+        using ThisClass [[maybe_unused]] = theClass;         \
+        using TheBaseClass = baseClass;                      \
         static const AFX_MSGMAP_ENTRY entries[] = {
 #define END_MESSAGE_MAP()                                                      \
     { 0, 0, 0, 0, nullptr }                                                    \

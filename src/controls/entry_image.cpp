@@ -23,8 +23,8 @@ enum class Search {
 
 // Folder number `index` of those that the host searches.
 std::optional<CString> SearchFolder(TarnInterface& host, int index) {
-    char folder[kPathSize] = {};
-    HostFolderBlock block = {QuerySearchFolder, index, folder, sizeof folder};
+    char folder[kPathSize + 1] = {};  // terminated even where the host fills all that it is given
+    HostFolderBlock block = {QuerySearchFolder, index, folder, kPathSize};
     if (host.Message(0, MessageGetFolder, &block, sizeof block) == 0 || block.length == 0)
         return std::nullopt;
     return CString(folder);

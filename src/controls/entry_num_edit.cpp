@@ -14,60 +14,39 @@ RECT FieldPlace(int parent_width, int height) {
 
 }  // namespace
 
-BEGIN_MESSAGE_MAP(CEntryNumEdit, CEntryWnd)
+BEGIN_TEMPLATE_MESSAGE_MAP(NumEntryOver, Edit, CEntryWnd)
 ON_WM_PAINT()
 END_MESSAGE_MAP()
 
-void CEntryNumEdit::CreateParts() {
+template <class Edit>
+void NumEntryOver<Edit>::CreateParts() {
     height_ = MeasureLabel(kSampleMixed, kSampleMixedLength).cy + 4;
     const RECT place = FieldPlace(ParentWidth(), height_);
     field_.Create(this, kFieldId, &place, 0, WS_EX_CLIENTEDGE);
     GiveFont(field_);
 }
 
-void CEntryNumEdit::SetValue(const char* text) {
+template <class Edit>
+void NumEntryOver<Edit>::SetValue(const char* text) {
     value_.SetValue(text);
     field_.Refresh();
 }
 
-void CEntryNumEdit::DisplayValue(const char* text) {
+template <class Edit>
+void NumEntryOver<Edit>::DisplayValue(const char* text) {
     value_.DisplayValue(text);
     field_.Refresh();
 }
 
-BOOL CEntryNumEdit::OwnsWindow(CWnd* window) {
+template <class Edit>
+BOOL NumEntryOver<Edit>::OwnsWindow(CWnd* window) {
     return window == this || field_.OwnsWindow(window);
 }
 
-void CEntryNumEdit::SetLimits(int, const double* limits, const CStringArray&) {
+template <class Edit>
+void NumEntryOver<Edit>::SetLimits(int, const double* limits, const CStringArray&) {
     value_.SetLimits(limits[0], limits[1], limits[2]);
 }
 
-BEGIN_MESSAGE_MAP(CEntryNumEditF, CEntryWnd)
-ON_WM_PAINT()
-END_MESSAGE_MAP()
-
-void CEntryNumEditF::CreateParts() {
-    height_ = MeasureLabel(kSampleMixed, kSampleMixedLength).cy + 4;
-    const RECT place = FieldPlace(ParentWidth(), height_);
-    field_.Create(this, kFieldId, &place, 0, WS_EX_CLIENTEDGE);
-    GiveFont(field_);
-}
-
-void CEntryNumEditF::SetValue(const char* text) {
-    value_.SetValue(text);
-    field_.Refresh();
-}
-
-void CEntryNumEditF::DisplayValue(const char* text) {
-    value_.DisplayValue(text);
-    field_.Refresh();
-}
-
-BOOL CEntryNumEditF::OwnsWindow(CWnd* window) {
-    return window == this || field_.OwnsWindow(window);
-}
-
-void CEntryNumEditF::SetLimits(int, const double* limits, const CStringArray&) {
-    value_.SetLimits(limits[0], limits[1], limits[2]);
-}
+template class NumEntryOver<WS_IntEdit>;
+template class NumEntryOver<WS_FloatEdit>;

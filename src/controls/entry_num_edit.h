@@ -4,8 +4,9 @@
 #include "controls/entry_wnd.h"
 #include "controls/num_edit.h"
 
-// A label and an integer field on one row.
-class CEntryNumEdit : public CEntryWnd {
+// A label and a number field on one row.
+template <class Edit>
+class NumEntryOver : public CEntryWnd {
 public:
     void SetValue(const char* text) override;
     const char* GetValue() override { return value_.GetValue(); }
@@ -20,26 +21,11 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    IntValue value_;
-    WS_IntEdit field_{value_.Field()};
+    NumericValue<typename Edit::Number> value_;
+    Edit field_{value_.Field()};
 };
 
-// A label and a float field on one row.
-class CEntryNumEditF : public CEntryWnd {
-public:
-    void SetValue(const char* text) override;
-    const char* GetValue() override { return value_.GetValue(); }
-    void DisplayValue(const char* text) override;
-    BOOL OwnsWindow(CWnd* window) override;
-    BOOL IsChanged() override { return value_.IsChanged(); }
-    void SetLimits(int mode, const double* limits, const CStringArray& items) override;
-
-protected:
-    void CreateParts() override;
-
-    DECLARE_MESSAGE_MAP()
-
-private:
-    FloatValue value_;
-    WS_FloatEdit field_{value_.Field()};
-};
+extern template class NumEntryOver<WS_IntEdit>;
+extern template class NumEntryOver<WS_FloatEdit>;
+using CEntryNumEdit = NumEntryOver<WS_IntEdit>;
+using CEntryNumEditF = NumEntryOver<WS_FloatEdit>;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <type_traits>
 
 #include "customize/keywords.h"
 #include "support/lex.h"
@@ -17,13 +18,43 @@ bool SaysOn(const CString& text) {
     return text[0] != '0';
 }
 
-// A decimal keeps its point, so that the script's value stays one.
-CString FloatText(float number) {
-    char digits[320];  // the longest double and its decimals
-    CLex::FormatFloat(digits, number);
-    if (std::strchr(digits, '.') == nullptr) std::strcat(digits, ".0");
-    return CString(digits);
-}
+// How numbers stand in texts.
+struct IntText {
+    static int Load(const CString& text) {
+        long number = 0;
+        CLex::IsDigit(text.GetString(), &number, nullptr);
+        return static_cast<int>(number);
+    }
+    static int Restore(const CString& text) { return ParseInt(text.GetString(), Length(text)); }
+    static int Narrow(double limit) { return TruncateToInt(limit); }
+    static CString Print(int number) {
+        CString text;
+        text.Format("%d", number);
+        return text;
+    }
+};
+
+struct FloatText {
+    static float Load(const CString& text) {
+        float number = 0.0f;
+        CLex::ScanFloatValue(text.GetString(), number);
+        return number;
+    }
+    static float Restore(const CString& text) {
+        return NarrowToFloat(ParseDouble(text.GetString(), Length(text)));
+    }
+    static float Narrow(double limit) { return NarrowToFloat(limit); }
+    // A decimal keeps its point, so that the script's value stays one.
+    static CString Print(float number) {
+        char digits[320];  // the longest double and its decimals
+        CLex::FormatFloat(digits, number);
+        if (std::strchr(digits, '.') == nullptr) std::strcat(digits, ".0");
+        return CString(digits);
+    }
+};
+
+template <class Number>
+using TextOf = std::conditional_t<std::is_same_v<Number, IntNumber>, IntText, FloatText>;
 
 }  // namespace
 
@@ -42,53 +73,35 @@ void CheckValue::DisplayValue(const CString& text) {
     shown_ = SaysOn(text);
 }
 
-void IntValue::SetValue(const CString& text) {
-    long number = 0;
-    CLex::IsDigit(text.GetString(), &number, nullptr);
+template <class Number>
+void NumericValue<Number>::SetValue(const CString& text) {
     text_ = text;
-    baseline_ = static_cast<int>(number);
+    baseline_ = TextOf<Number>::Load(text);
     field_.SetNumber(baseline_);
 }
 
-const CString& IntValue::GetValue() {
+template <class Number>
+const CString& NumericValue<Number>::GetValue() {
     if (IsChanged()) {
         baseline_ = field_.Value();
-        text_.Format("%d", baseline_);
+        text_ = TextOf<Number>::Print(baseline_);
     }
     return text_;
 }
 
-void IntValue::DisplayValue(const CString& text) {
-    field_.SetNumber(ParseInt(text.GetString(), Length(text)));
+template <class Number>
+void NumericValue<Number>::DisplayValue(const CString& text) {
+    field_.SetNumber(TextOf<Number>::Restore(text));
 }
 
-void IntValue::SetLimits(double minimum, double maximum, double step) {
-    field_.SetRange(TruncateToInt(minimum), TruncateToInt(maximum), TruncateToInt(step));
+template <class Number>
+void NumericValue<Number>::SetLimits(double minimum, double maximum, double step) {
+    const auto narrow = &TextOf<Number>::Narrow;
+    field_.SetRange(narrow(minimum), narrow(maximum), narrow(step));
 }
 
-void FloatValue::SetValue(const CString& text) {
-    float number = 0.0f;
-    CLex::ScanFloatValue(text.GetString(), number);
-    text_ = text;
-    baseline_ = number;
-    field_.SetNumber(baseline_);
-}
-
-const CString& FloatValue::GetValue() {
-    if (IsChanged()) {
-        baseline_ = field_.Value();
-        text_ = FloatText(baseline_);
-    }
-    return text_;
-}
-
-void FloatValue::DisplayValue(const CString& text) {
-    field_.SetNumber(NarrowToFloat(ParseDouble(text.GetString(), Length(text))));
-}
-
-void FloatValue::SetLimits(double minimum, double maximum, double step) {
-    field_.SetRange(NarrowToFloat(minimum), NarrowToFloat(maximum), NarrowToFloat(step));
-}
+template class NumericValue<IntNumber>;
+template class NumericValue<FloatNumber>;
 
 void TextValue::SetValue(const CString& text) {
     text_ = text;

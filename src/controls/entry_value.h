@@ -58,10 +58,13 @@ private:
     CString text_;
 };
 
-// An integer. Until the number changes, GetValue gives the loaded text in its own spelling.
-class IntValue : public EntryValue {
+// A number. Until it changes, GetValue gives the loaded text in its own spelling. A decimal's field rounds to
+// three places and the baseline does not, so a text with more of them counts as changed as soon as it is
+// loaded.
+template <class Number>
+class NumericValue : public EntryValue {
 public:
-    IntNumber& Field() { return field_; }
+    Number& Field() { return field_; }
 
     void SetValue(const CString& text) override;
     const CString& GetValue() override;
@@ -70,28 +73,15 @@ public:
     void SetLimits(double minimum, double maximum, double step) override;
 
 private:
-    IntNumber field_;
+    Number field_;
     CString text_;
-    int baseline_ = 0;
+    typename Number::Type baseline_ = 0;
 };
 
-// A decimal. As the field rounds to three decimals and the baseline does not, a text with more of them counts
-// as changed as soon as it is loaded.
-class FloatValue : public EntryValue {
-public:
-    FloatNumber& Field() { return field_; }
-
-    void SetValue(const CString& text) override;
-    const CString& GetValue() override;
-    void DisplayValue(const CString& text) override;
-    bool IsChanged() const override { return field_.Value() != baseline_; }
-    void SetLimits(double minimum, double maximum, double step) override;
-
-private:
-    FloatNumber field_;
-    CString text_;
-    float baseline_ = 0.0f;
-};
+extern template class NumericValue<IntNumber>;
+extern template class NumericValue<FloatNumber>;
+using IntValue = NumericValue<IntNumber>;
+using FloatValue = NumericValue<FloatNumber>;
 
 // A text in an edit: a string, a text of several rows, a file name.
 class TextValue : public EntryValue {

@@ -121,9 +121,12 @@ private:
 };
 
 // A field over one kind of number, which is the caller's and must outlive the field.
-template <class Number, class Value>
+template <class NumberType>
 class NumEditOver : public WS_NumEdit {
 public:
+    using Number = NumberType;
+    using Value = typename Number::Type;
+
     // As the number does. SetRange does not clamp.
     void SetRange(Value minimum, Value maximum, Value step) { number_.SetRange(minimum, maximum, step); }
     void SetNumber(Value number) {
@@ -149,13 +152,13 @@ private:
 };
 
 // A field for a 32-bit integer.
-class WS_IntEdit : public NumEditOver<IntNumber, int> {
+class WS_IntEdit : public NumEditOver<IntNumber> {
 public:
     explicit WS_IntEdit(IntNumber& number) : NumEditOver(number, "WS_IntEdit") {}
 };
 
 // A field for a 32-bit float.
-class WS_FloatEdit : public NumEditOver<FloatNumber, float> {
+class WS_FloatEdit : public NumEditOver<FloatNumber> {
 public:
     explicit WS_FloatEdit(FloatNumber& number) : NumEditOver(number, "WS_FloatEdit") {}
 };

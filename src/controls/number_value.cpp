@@ -92,12 +92,6 @@ bool NumberValue::SetText(char* text, bool final) {
     return false;
 }
 
-void IntNumber::SetRange(int minimum, int maximum, int step) {
-    minimum_ = minimum;
-    maximum_ = maximum;
-    step_ = step;
-}
-
 void IntNumber::SetNumber(int number) {
     value_ = number;
     Remember();
@@ -129,12 +123,6 @@ bool IntNumber::ParseText(const char* text, int length) {
     const uint32_t number = cursor.TakeDigits();
     value_ = Wrap(negative ? 0u - number : number);
     return clean && !cursor.HasRest();
-}
-
-void FloatNumber::SetRange(float minimum, float maximum, float step) {
-    minimum_ = minimum;
-    maximum_ = maximum;
-    step_ = step;
 }
 
 void FloatNumber::SetNumber(float number) {

@@ -49,18 +49,39 @@ protected:
     NumberValue& operator=(const NumberValue&) = default;
 };
 
-// A 32-bit integer. Its arithmetic wraps; the range is looked at afterwards.
-class IntNumber : public NumberValue {
+// A number with its range and step.
+template <class Number>
+class RangedNumber : public NumberValue {
 public:
-    const int& Value() const { return value_; }
-    int Minimum() const { return minimum_; }
-    int Maximum() const { return maximum_; }
-    int StepSize() const { return step_; }
+    using Type = Number;
 
-    // Equal bounds mean no range; with the bounds exchanged every value becomes the maximum. The present
-    // value stays as it is.
-    void SetRange(int minimum, int maximum, int step);
+    const Number& Value() const { return value_; }
+    Number Minimum() const { return minimum_; }
+    Number Maximum() const { return maximum_; }
+    Number StepSize() const { return step_; }
 
+    // The present value stays as it is.
+    void SetRange(Number minimum, Number maximum, Number step) {
+        minimum_ = minimum;
+        maximum_ = maximum;
+        step_ = step;
+    }
+
+    void Remember() override { remembered_ = value_; }
+    bool IsRemembered() const override { return value_ == remembered_; }
+
+protected:
+    Number value_ = 0;
+    Number minimum_ = 0;
+    Number maximum_ = 0;
+    Number step_ = 1;
+    Number remembered_ = 0;
+};
+
+// A 32-bit integer. Its arithmetic wraps; the range is looked at afterwards. Equal bounds mean no range; with
+// the bounds exchanged every value becomes the maximum.
+class IntNumber : public RangedNumber<int> {
+public:
     // Takes the number, in the range or not, and remembers it.
     void SetNumber(int number);
 
@@ -68,29 +89,12 @@ public:
     bool Clamp() override;
     void FormatValue(char* dest) const override;
     bool ParseText(const char* text, int length) override;
-    void Remember() override { remembered_ = value_; }
-    bool IsRemembered() const override { return value_ == remembered_; }
-
-private:
-    int value_ = 0;
-    int minimum_ = 0;
-    int maximum_ = 0;
-    int step_ = 1;
-    int remembered_ = 0;
 };
 
 // A 32-bit float, shown with three decimals at most. Typed decimals beyond the third stay in it until a step
-// or SetNumber rounds it.
-class FloatNumber : public NumberValue {
+// or SetNumber rounds it. It has no range unless the minimum is below the maximum.
+class FloatNumber : public RangedNumber<float> {
 public:
-    const float& Value() const { return value_; }
-    float Minimum() const { return minimum_; }
-    float Maximum() const { return maximum_; }
-    float StepSize() const { return step_; }
-
-    // No range unless the minimum is below the maximum. The present value stays as it is.
-    void SetRange(float minimum, float maximum, float step);
-
     // Takes the number rounded to three decimals, in the range or not, and remembers it.
     void SetNumber(float number);
 
@@ -98,15 +102,7 @@ public:
     bool Clamp() override;
     void FormatValue(char* dest) const override;
     bool ParseText(const char* text, int length) override;
-    void Remember() override { remembered_ = value_; }
-    bool IsRemembered() const override { return value_ == remembered_; }
 
 private:
     double Clamped(double value) const;
-
-    float value_ = 0.0f;
-    float minimum_ = 0.0f;
-    float maximum_ = 0.0f;
-    float step_ = 1.0f;
-    float remembered_ = 0.0f;
 };

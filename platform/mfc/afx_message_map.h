@@ -7,9 +7,10 @@
 // message.
 
 #define BEGIN_MESSAGE_MAP(theClass, baseClass) AFX_BEGIN_MAP(, theClass, baseClass)
-// Of a class template with one parameter, a type.
+// Of a class template with one parameter, a type. NOLINTBEGIN(bugprone-macro-parentheses): types take none.
 #define BEGIN_TEMPLATE_MESSAGE_MAP(theClass, type_name, baseClass) \
     AFX_BEGIN_MAP(template <class type_name>, theClass<type_name>, baseClass)
+// NOLINTEND(bugprone-macro-parentheses)
 #define AFX_BEGIN_MAP(head, theClass, baseClass)             \
     head const AFX_MSGMAP* theClass::GetMessageMap() const { \
         return GetThisMessageMap();                          \

@@ -48,11 +48,12 @@ start_display() {
     [ "$DISPLAY" != : ]
 }
 
-# Windows get the focus in a desktop of Wine's own only, not on a bare display.
-use_own_desktop() {
-    local key='HKCU\Software\Wine\Explorer'
-    timeout 120 "$WINELOADER" reg add "$key" /v Desktop /d brlv /f &&
-        timeout 120 "$WINELOADER" reg add "$key\Desktops" /v brlv /d 1024x768 /f
+# The server and the programs it keeps (services, the desktop) run before the first test and outlast the last.
+# Were a test to start them, ctest would wait for them, since they hold its output; and by itself the server ends
+# soon after a program does: one that starts in that moment is refused. When this script is killed it goes alone.
+start_server() {
+    stop_wine
+    "$WINESERVER" -p600 && timeout 120 "$WINELOADER" cmd /c exit >/dev/null 2>&1
 }
 
 tools/install_packages.sh cmake ninja-build googletest libcli11-dev nlohmann-json3-dev \
@@ -70,7 +71,7 @@ esac
 use_wine "$world"
 trap clean_up EXIT
 start_display || { echo "run_windows_tests: no display could be started" >&2; exit 1; }
-use_own_desktop >/dev/null 2>&1 || { echo "run_windows_tests: Wine has no desktop" >&2; exit 1; }
+start_server || { echo "run_windows_tests: Wine's server does not start" >&2; exit 1; }
 ctest --preset "$preset" --no-tests=error
 status=$?
 tools/count_cases.sh "build/$preset"

@@ -8,6 +8,7 @@
 set -uo pipefail
 source "$(dirname "${BASH_SOURCE[0]}")/wine_env.sh"
 tools=$project_root/tools
+desktop=brlv
 
 unavailable() {
     echo "setup_wine: not available here: $*" >&2
@@ -66,14 +67,15 @@ set_registry() {
 }
 
 # One desktop window holds all windows: focus and activation then follow Windows' rules and need no window
-# manager. Wine's own fonts stand in for those of Windows. A crash prints its stack and asks nothing.
+# manager; on a bare display no window gets the focus. Wine's own fonts stand in for those of Windows. A crash
+# prints its stack and asks nothing.
 make_prefix() {
     rm -rf "$WINEPREFIX"
     mkdir -p "$(dirname "$WINEPREFIX")"
     timeout 300 "$WINELOADER" wineboot -i >"$work_folder"/boot.log 2>&1 &&
         cp /usr/share/wine/fonts/* "$WINEPREFIX"/drive_c/windows/Fonts/ &&
-        set_registry Explorer Desktop REG_SZ Default &&
-        set_registry 'Explorer\Desktops' Default REG_SZ 1024x768 &&
+        set_registry Explorer Desktop REG_SZ "$desktop" &&
+        set_registry 'Explorer\Desktops' "$desktop" REG_SZ 1024x768 &&
         set_registry WineDbg ShowCrashDialog REG_DWORD 0
 }
 
@@ -84,9 +86,10 @@ runs_programs() {
 }
 
 prepare_prefix() {
-    local ready_mark=$WINEPREFIX/.ready version
+    local ready_mark=$WINEPREFIX/.ready version state
     version=$("$WINELOADER" --version) || { echo "setup_wine: $WINELOADER does not start" >&2; exit 1; }
-    if [ "$(cat "$ready_mark" 2>/dev/null)" != "$version" ]; then
+    state="$version, desktop $desktop"
+    if [ "$(cat "$ready_mark" 2>/dev/null)" != "$state" ]; then
         echo "setup_wine: making the prefix $WINEPREFIX"
         if ! { make_prefix && runs_programs; }; then
             tail -n 5 "$work_folder"/boot.log >&2
@@ -96,7 +99,7 @@ prepare_prefix() {
         fi
         # The registry is written when the last process ends.
         stop_wine
-        echo "$version" >"$ready_mark"
+        echo "$state" >"$ready_mark"
     fi
     echo "setup_wine: $world ready, $version"
 }
